@@ -1,0 +1,147 @@
+#include "app/Ndd2QfxApp.h"
+
+#include <cstdio>
+#include <ctime>
+#include <thread>
+
+#include "Version.h"
+#include "app/CommandLine.h"
+#include "app/ReportMessage.h"
+#include "app/TraceStep.h"
+#include "app/TranslationDriver.h"
+#include "app/TranslationOptions.h"
+#include "base/Platform.h"
+#include "ndd/NddTokens.h"
+
+namespace {
+
+// Trailing blanks and separators are cut from the current folder.
+std::string WorkingFolder() {
+    std::string folder = base::CurrentFolder();
+    while (!folder.empty() &&
+           (folder.back() == ' ' || folder.back() == '/' || folder.back() == '\\'))
+        folder.pop_back();
+    return folder;
+}
+
+std::string FolderOf(const std::string& path) {
+    size_t sep = base::LastSeparator(path);
+    return sep == std::string::npos ? std::string() : path.substr(0, sep);
+}
+
+std::string InFolder(const std::string& folder, const std::string& name) {
+    return folder + base::kSep + name;
+}
+
+}  // namespace
+
+CNdd2QfxApp::~CNdd2QfxApp() {
+    if (!g_options.g_pLogFile) return;
+    std::string when = base::FormatTime("%A, %B %d, %Y ,%H:%M:%S  ", std::time(nullptr));
+    std::fprintf(g_options.g_pLogFile, "Application Ended At : %s", when.c_str());
+    std::fclose(g_options.g_pLogFile);
+    g_options.g_pLogFile = nullptr;
+}
+
+// The log's folder, else the input's, then the output's, decides the working folder; bare
+// names are made absolute with the current folder.
+void CNdd2QfxApp::DecideFolder(std::string& folder) {
+    TranslationOptions& o = g_options;
+    if (!o.g_strCmdLogFile.empty()) {
+        if (!base::HasSeparator(o.g_strCmdLogFile)) {
+            o.g_strCmdLogFile = InFolder(folder, o.g_strCmdLogFile);
+            return;
+        }
+        folder = FolderOf(o.g_strCmdLogFile);
+    } else if (o.g_strCmdInputFile.empty()) {
+        return;
+    } else {
+        for (std::string* name : {&o.g_strCmdInputFile, &o.g_strCmdOutputFile}) {
+            if (name->empty()) continue;
+            if (!base::HasSeparator(*name))
+                *name = InFolder(folder, *name);
+            else
+                folder = FolderOf(*name);
+        }
+    }
+    base::ChangeFolder(folder.empty() ? std::string(1, base::kSep) : folder);
+}
+
+int CNdd2QfxApp::InitInstance() {
+    TranslationOptions& o = g_options;
+    o.g_strProgramFolder = base::ProgramFolder(m_args.empty() ? nullptr : m_args[0].c_str());
+    TraceStep(false, "start parse cmd line for Ndd");
+    int result =
+        ParseCommandLine(m_args, o.g_strCmdLogFile, o.g_strCmdInputFile, o.g_strCmdOutputFile);
+    if (result == kCmdUnknownExtension) {
+        TraceStep(true, "Unknown file extension name(%d)", result);
+        ReportMessage("Unknown file extension name.");
+        return 0;
+    }
+    for (std::string* p : {&o.g_strCmdLogFile, &o.g_strCmdInputFile, &o.g_strCmdOutputFile})
+        *p = base::NativeSeparators(*p);
+    std::string folder = WorkingFolder();
+    DecideFolder(folder);
+    TraceStep(true, "folder file name:%s", folder.c_str());
+    TraceStep(true, "log file name:%s", o.g_strCmdLogFile.c_str());
+    TraceStep(true, "input file name:%s", o.g_strCmdInputFile.c_str());
+    TraceStep(true, "output file name:%s", o.g_strCmdOutputFile.c_str());
+    if (o.g_nBatchMode != 0)
+        o.g_pErrorLog = std::fopen(InFolder(folder, "error.log").c_str(), "w+");
+    if (result == kCmdFilesTaken && !o.g_strCmdInputFile.empty() && o.g_strCmdOutputFile.empty())
+        o.g_strCmdOutputFile = DefaultOutputName(o.g_strCmdInputFile);
+
+    o.g_lstLogNets.clear();
+    o.g_lstLogColors.clear();
+    TranslationDriver driver;
+    o.g_strInputFile = o.g_strCmdInputFile;
+    o.g_strOutputFile = o.g_strCmdOutputFile;
+    o.g_nQuiet = o.g_nBatchMode;
+
+    if (o.g_nBatchMode != 0) {
+        TraceStep(true, "batch mode");
+        o.g_strInputFile = o.g_strCmdInputFile;
+        o.g_strOutputFile = o.g_strCmdOutputFile;
+        driver.Translate(o.g_strInputFile, o.g_strOutputFile);
+    } else {
+        TraceStep(true, "UI mode");
+        std::fprintf(stderr,
+                     "ndd2qfx: this build has no dialog yet; only batch runs (-NoUI, -b) are "
+                     "available\n");
+        std::fflush(nullptr);
+        std::_Exit(kNoDialogStatus);
+    }
+    if (o.g_pErrorLog) std::fflush(o.g_pErrorLog);
+    return -1;
+}
+
+int RunProcess(int argc, char** argv) {
+    base::UseClassicNumericLocale();
+    std::vector<std::string> args(argv, argv + argc);
+    for (size_t i = 1; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a.size() < 2 || (a[0] != '-' && a[0] != '\\')) continue;
+        std::string rest = a.substr(1);
+        if (EqualsNoCase(rest, "v")) {
+            std::printf("%s %s\n", NDD2QFX_PRODUCT_NAME, NDD2QFX_PRODUCT_VERSION);
+            return 0;
+        }
+        if (EqualsNoCase(rest, "b")) {
+            int started = 0;
+            std::thread runner([&] {
+                CNdd2QfxApp app(args);
+                started = app.InitInstance();
+                app.ExitInstance();
+            });
+            runner.join();
+            return started == 0 ? -1 : 0;
+        }
+    }
+    int started;
+    {
+        CNdd2QfxApp app(args);
+        started = app.InitInstance();
+        app.ExitInstance();
+    }
+    return started == 0 ? -2 : 0;
+}

@@ -1,0 +1,188 @@
+#include "app/TranslationDriver.h"
+
+#include <cstdio>
+
+#include "app/Progress.h"
+#include "app/ReportMessage.h"
+#include "app/TraceStep.h"
+#include "app/TranslationOptions.h"
+#include "base/Platform.h"
+#include "ndd/LayoutModel.h"
+#include "ndd/NddInput.h"
+#include "ndd/NddTokens.h"
+#include "ndd/NetTable.h"
+#include "ndd/Units.h"
+#include "qfx/Skeleton.h"
+
+namespace {
+
+const char kTracesQuestion[] =
+    "Do you wish to include information in the\"traces\"file?\r\n"
+    "If Yes, please select the latest version of the \"traces\" file\r\n"
+    "   that is usually found in the layout's \"PCB\" folder.\r\n"
+    "\r\nNote: The \"traces\" file contains additional information \r\n"
+    "   that is not contained within the ndd file.\r\n"
+    "   The translation is usually more accurate \r\n"
+    "   when this file is used in conjunction with the ndd file.\r\n"
+    "\r\nIt is highly recommended.";
+
+// Reports a failure to the user and to the trace with the same words.
+int Fail(const std::string& text) {
+    ReportMessage(text);
+    TraceStep(true, "%s", text.c_str());
+    return 0;
+}
+
+// The extension from the last dot on; the whole name when it has no dot.
+std::string ExtensionOf(const std::string& name) {
+    size_t dot = name.rfind('.');
+    return dot == std::string::npos ? name : name.substr(dot);
+}
+
+}  // namespace
+
+void TranslationDriver::ShowStage(const std::string& text) {
+    if (g_options.g_nQuiet == 0) OnStage(text);
+}
+
+int TranslationDriver::Translate(std::string inputFile, std::string outputFile) {
+    TraceStep(true, "Begin");
+    if (inputFile.empty()) return Fail("Please specify a NDD file");
+    if (outputFile.empty()) return Fail("Please specify a QFX file");
+    if (g_options.g_nQuiet == 0 && base::PathExists(outputFile) && !g_options.g_bLogLoaded &&
+        ReportMessage("Target qfx file already exists, \n Do you want to replace it?", kBoxYesNo) ==
+            kAnswerNo) {
+        TraceStep(true, "exit");
+        std::exit(0);
+    }
+    if (!LoadNddInput(inputFile)) {
+        ReportMessage("Unable To open The Input NDD File\nPlease Check the Permissions");
+        TraceStep(true, "Unable To open The Input NDD File\nPlease Check the Permissions");
+        return 0;
+    }
+    FILE* out = std::fopen(outputFile.c_str(), "w+");
+    if (!out) {
+        ReportMessage("Cannot open file : " + outputFile);
+        TraceStep(true, "Cannot open file : %s", outputFile.c_str());
+        return 0;
+    }
+    g_options.g_pOutputFile = out;
+    if (!g_options.g_pLogFile) {
+        g_options.g_pLogFile = std::fopen((outputFile + ".log").c_str(), "w");
+        if (!g_options.g_pLogFile)
+            ReportMessage("Cannot open log file : " + outputFile + ".log", kBoxWarning);
+    }
+    if (g_options.g_nQuiet == 0 && g_options.g_strTraceFile.empty() &&
+        ReportMessage(kTracesQuestion, kBoxYesNo) == kAnswerYes)
+        RunSettingsStep();
+
+    int result = ReadDesignData(inputFile);
+    if (result) {
+        if (inputFile.empty() || outputFile.empty())
+            return Fail("File name empty. Please provide the file name!");
+        if (inputFile.back() != '.' && !EqualsNoCase(ExtensionOf(inputFile), ".NDD")) {
+            TraceStep(true, "The Extension of Input File must be NDD !Please Retry .");
+            ReportMessage("The Extension of Input File must be NDD !\nPlease Retry .");
+            return 0;
+        }
+        if (outputFile.back() != '.' && !EqualsNoCase(ExtensionOf(outputFile), ".QFX"))
+            outputFile += ".QFX";
+        size_t sep = base::LastSeparator(outputFile);
+        std::string outputFolder =
+            sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
+        TraceStep(true, "Transfer");
+        result = TranslateNddToQfx(inputFile, outputFile, outputFolder);
+    }
+    FreeModelArrays();
+    return result;
+}
+
+// Units, nets and the other library-level data that the pipeline's passes bind to.
+int TranslationDriver::ReadDesignData(const std::string& inputFile) {
+    if (m_bReread) {
+        ParseUnits(inputFile);
+        auto stream = OpenNdd(inputFile);
+        if (!stream) {
+            TraceStep(true, "fail to open %s", inputFile.c_str());
+            return 0;
+        }
+        SetNetSelectionMode();
+        TraceStep(true, "ParseNet");
+        ParseNet(*stream);
+        AssignNetColors();
+    }
+    SetNetSelectionMode();
+    g_model.g_aLayers.reset();
+    g_model.g_nLayerCount = 0;
+    return 1;
+}
+
+int TranslationDriver::FailPipeline() {
+    if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
+    g_options.g_pLogFile = nullptr;
+    return 0;
+}
+
+int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
+                                         const std::string& outputFile,
+                                         const std::string& outputFolder) {
+    (void)outputFile;
+    (void)outputFolder;
+    if (g_options.g_nQuiet == 0) SetProgress(0);
+    ShowStage("Begin ...");
+    g_model.g_dbWorkMinX = g_options.g_dbSpatialMinX;
+    g_model.g_dbWorkMinY = g_options.g_dbSpatialMinY;
+    g_model.g_dbWorkMaxX = g_options.g_dbSpatialMaxX;
+    g_model.g_dbWorkMaxY = g_options.g_dbSpatialMaxY;
+    if (!OpenNdd(inputFile)) {
+        ReportMessage("Cannot open file : " + inputFile, kBoxWarning);
+        TraceStep(true, "Cannot open file : %s", inputFile.c_str());
+        return 0;
+    }
+    ShowStage("Processing Layer Info ...");
+    ShowStage("Processing Via Info ...");
+
+    double unionLength = g_options.g_dbTraceUnionLength / 1.0;
+    g_model.g_dbTinyTraceLimitSquared = unionLength * unionLength;
+
+    ShowStage("Processing Trace Info...");
+    ShowStage("Processing Shape Info...");
+
+    FILE* out = g_options.g_pOutputFile;
+    ShowStage("Writing Title ...");
+    WriteTitle(out);
+    TraceStep(true, "output");
+    ShowStage("Writing Transient ...");
+    WriteTransient(out);
+    ShowStage("Writing Mesh ...");
+    WriteMesh(out);
+    ShowStage("Writing PKG header ...");
+    TraceStep(true, "MakePackage");
+    WritePackageHead(out);
+
+    ShowStage("Writing PKG End...");
+    WritePackageEnd(out);
+    WriteFileEnd(out);
+    std::fclose(out);
+    g_options.g_pOutputFile = nullptr;
+
+    if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
+    g_options.g_pLogFile = nullptr;
+    TraceStep(true, "Translation completed");
+    ShowStage("Translation completed");
+    return 1;
+}
+
+void FreeModelArrays() {
+    if (g_options.g_pOutputFile) std::fclose(g_options.g_pOutputFile);
+    g_options.g_pOutputFile = nullptr;
+    g_model.g_aVias.clear();
+    g_model.g_aDrillRadii.clear();
+    g_model.g_aTraces.clear();
+    g_model.g_aTraceNets.clear();
+    g_model.g_aTraceFlags.clear();
+    g_model.g_aShapes.clear();
+    g_model.g_aShapePoints.clear();
+    g_model.g_aShapeBoxes.clear();
+    g_model.g_aViaOut.clear();
+}

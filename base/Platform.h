@@ -1,0 +1,33 @@
+#pragma once
+// The few places where the program meets the operating system. Paths from users, the
+// command line and loaded logs may use either separator; they are normalised to the native
+// one here, and "the last separator" means the last of either kind.
+#include <ctime>
+#include <string>
+
+namespace base {
+
+constexpr char kSep = '/';
+
+// Every '\' and '/' becomes the native separator.
+std::string NativeSeparators(std::string path);
+// Position of the last '/' or '\', or std::string::npos.
+size_t LastSeparator(const std::string& path);
+bool HasSeparator(const std::string& path);
+// Absolute, lexically normalised path (no symbolic links resolved).
+std::string AbsolutePath(const std::string& path);
+std::string CurrentFolder();
+bool ChangeFolder(const std::string& folder);
+bool PathExists(const std::string& path);
+bool IsFolder(const std::string& path);
+bool RemoveFile(const std::string& path);
+// TMP, then TEMP, then TMPDIR, then /tmp.
+std::string TempFolder();
+// Folder of the running program, with a trailing separator.
+std::string ProgramFolder(const char* argv0);
+// strftime under the "C" locale; "%#d" is taken as the day without a leading zero.
+std::string FormatTime(const char* format, std::time_t when);
+// Pins the numeric locale to "C" so printf formats are the same everywhere.
+void UseClassicNumericLocale();
+
+}  // namespace base

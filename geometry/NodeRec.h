@@ -1,0 +1,42 @@
+#pragma once
+// A node is a place on a layer where conductors meet. Nodes live in an ordered set whose
+// order is the node tolerance: layer first, then x, then y, with coordinates within 6e-5 mm
+// of each other comparing equal. That order is not transitive at the edges of the
+// tolerance, so insertion order decides which of three nearly equal points come together.
+#include <cstdint>
+#include <set>
+#include <string>
+
+struct PadStackRec;
+
+constexpr double kNodeTolerance = 6e-5;
+
+struct NodeRec {
+    // The key: layer, x, y. The other fields may change while the record is in the set.
+    int32_t layer = 0;
+    double x = 0.0, y = 0.0;
+    mutable uint32_t id = 0;
+    mutable int32_t net = 65535;
+    mutable uint16_t contact = 0;
+    mutable uint16_t viaRefs = 0;
+    mutable uint16_t traceRefs = 1;
+    mutable std::string label;  // pin name; empty when the node has none
+    mutable int32_t mirrored = 1;
+    mutable double rotation = 0.0;
+    mutable PadStackRec* padStack = nullptr;
+};
+
+struct NodeOrder {
+    bool operator()(const NodeRec& a, const NodeRec& b) const {
+        if (a.layer != b.layer) return a.layer < b.layer;
+        double dx = a.x - b.x;
+        if (dx > kNodeTolerance) return false;
+        if (dx < -kNodeTolerance) return true;
+        double dy = a.y - b.y;
+        if (dy > kNodeTolerance) return false;
+        if (dy < -kNodeTolerance) return true;
+        return false;
+    }
+};
+
+using NodeSet = std::set<NodeRec, NodeOrder>;

@@ -1,0 +1,27 @@
+#include "qfx/Naming.h"
+
+#include "app/TranslationOptions.h"
+#include "ndd/LayoutModel.h"
+
+const std::string& Affix() {
+    return g_options.g_strNameAffix;
+}
+
+std::string NetSuffix(int32_t net) {
+    if (!g_options.g_bAppendNetName || net == kNoNet || net == kNoNetAlt) return std::string();
+    const std::string& name = DisplayNetName(net);
+    return name.empty() ? std::string() : "::" + name;
+}
+
+std::string PinLabelSuffix(const std::string& label) {
+    return label.empty() ? std::string() : "!!" + label;
+}
+
+std::string TitleVersion(const std::string& productVersion) {
+    std::string out;
+    for (char c : productVersion) {
+        if (c == ' ') continue;
+        out += c == ',' ? '.' : c;
+    }
+    return out;
+}

@@ -1,0 +1,14 @@
+#pragma once
+// Object names of the QFX file: class word, name affix, counter or layer name, then the
+// pin label suffix and the net suffix.
+#include <cstdint>
+#include <string>
+
+// The name affix ("Name affix : "), empty by default.
+const std::string& Affix();
+// "::" and the net's unique display name; empty when net names are off or for no net.
+std::string NetSuffix(int32_t net);
+// "!!" and the node's pin label; empty without a label.
+std::string PinLabelSuffix(const std::string& label);
+// The program's version as the title prints it: "," to "." and blanks removed.
+std::string TitleVersion(const std::string& productVersion);

@@ -1,0 +1,28 @@
+# Shared by run.sh and test.sh: installs what is missing and builds.
+set -euo pipefail
+
+NEEDED_PACKAGES=(g++ cmake make libgtest-dev libgmock-dev libbenchmark-dev)
+
+install_missing() {
+    local missing=()
+    for p in "${NEEDED_PACKAGES[@]}"; do
+        dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
+    done
+    if [ ${#missing[@]} -gt 0 ]; then
+        echo "Installing: ${missing[*]}"
+        local sudo=""
+        [ "$(id -u)" -ne 0 ] && sudo="sudo"
+        $sudo apt-get update -qq
+        DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}"
+    fi
+}
+
+# build DIR [extra cmake args...]
+build() {
+    local dir=$1
+    shift
+    local werror=OFF
+    [ "${CI:-}" = "true" ] && werror=ON
+    cmake -S . -B "$dir" -DNDD2QFX_WERROR="$werror" "$@" >/dev/null
+    cmake --build "$dir" -j "$(nproc)"
+}
