@@ -7,10 +7,13 @@
 #include "app/TraceStep.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/GapStrokes.h"
+#include "geometry/ShapeCleanupRound.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/ParseElement.h"
 #include "ndd/Units.h"
 #include "qfx/Skeleton.h"
 
@@ -147,6 +150,13 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     ShowStage("Processing Trace Info...");
     ShowStage("Processing Shape Info...");
+    TraceStep(true, "ParseElement");
+    if (!ParseElement(inputFile)) return FailPipeline();
+
+    if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
+        AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
+
+    RunShapeCleanupRound();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
