@@ -12,6 +12,8 @@
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/Units.h"
+#include "qfx/LayerWriter.h"
+#include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
 
 namespace {
@@ -159,6 +161,16 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ShowStage("Writing PKG header ...");
     TraceStep(true, "MakePackage");
     WritePackageHead(out);
+
+    TraceStep(true, "Writing Shape Info...");
+    if (g_options.g_bTranslateShapes) {
+        ShowStage("Writing Shape Info...");
+        WriteShapes(out);
+    }
+    if (g_options.g_bTranslateLayers) {
+        ShowStage("Writing Layer Info...");
+        WriteLayers(out);
+    }
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);
