@@ -15,6 +15,7 @@
 #include "qfx/LayerWriter.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
+#include "qfx/ViaWriter.h"
 
 namespace {
 
@@ -171,6 +172,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         ShowStage("Writing Layer Info...");
         WriteLayers(out);
     }
+
+    if (g_options.g_bTranslateVias) WriteVias(out);
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);
