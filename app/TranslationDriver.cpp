@@ -7,6 +7,7 @@
 #include "app/TraceStep.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
@@ -117,6 +118,8 @@ int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     SetNetSelectionMode();
     g_model.g_aLayers.reset();
     g_model.g_nLayerCount = 0;
+    TraceStep(true, "ParseLayer");
+    if (!ParseLayer(inputFile)) return 0;
     return 1;
 }
 
