@@ -9,15 +9,19 @@
 #include "base/Platform.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
+#include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/TraceReader.h"
 #include "ndd/Units.h"
+#include "qfx/LayerWriter.h"
 #include "qfx/NodeWriter.h"
+#include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
 #include "qfx/TraceWriter.h"
+#include "qfx/ViaWriter.h"
 
 namespace {
 
@@ -119,6 +123,8 @@ int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     SetNetSelectionMode();
     g_model.g_aLayers.reset();
     g_model.g_nLayerCount = 0;
+    TraceStep(true, "ParseLayer");
+    if (!ParseLayer(inputFile)) return 0;
     return 1;
 }
 
@@ -177,6 +183,16 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     RebuildNodeArray();
     RebuildNodeIndex();
 
+    TraceStep(true, "Writing Shape Info...");
+    if (g_options.g_bTranslateShapes) {
+        ShowStage("Writing Shape Info...");
+        WriteShapes(out);
+    }
+    if (g_options.g_bTranslateLayers) {
+        ShowStage("Writing Layer Info...");
+        WriteLayers(out);
+    }
+
     ShowStage("Writing Node Info...");
     TraceStep(true, "MakeNode");
     MakeNode();
@@ -187,6 +203,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         ShowStage("Writing Trace Info...");
         WriteTraces(out);
     }
+    if (g_options.g_bTranslateVias) WriteVias(out);
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);
