@@ -138,6 +138,19 @@ TEST(WriteNodes, NodesWithoutNetPrintOnlyWithNoNetEtches) {
               "1\n");
 }
 
+TEST(WriteNodes, NodesOnOtherLayersPrintAsMedium) {
+    ResetGlobals();
+    MakeLayerStack({{"TOP", kLayerSignal}, {"D1", kLayerDielectric}});
+    AddViaNode(0.5, 0.25, 1, kNoNet, 1, 1);
+    AddViaNode(0.5, 0.25, -1, kNoNet, 0, 1);
+    g_options.g_nIncludeNoNetEtches = 1;
+    SettleNodes();
+    EXPECT_EQ(Nodes(),
+              "Node1 X = 5.0000000000e-01mm Y = 2.5000000000e-01mm Layer = Medium$ Contact = 0\n"
+              "Node0 X = 5.0000000000e-01mm Y = 2.5000000000e-01mm Layer = Medium$D1 Contact = "
+              "1\n");
+}
+
 TEST(WriteNodes, PadstacksWithoutDrillTakeTheirViasDrillRadius) {
     ResetGlobals();
     PadStackRec noDrill, zeroDrill, ownDrill;
@@ -171,6 +184,7 @@ void MakeNumberedTraces() {
     MakeLayerStack({{"TOP", kLayerSignal}});
     MakeNets({"N1", "N2"});
     for (int i = 0; i < 5; ++i) AddNode(nullptr, i, 0, 0, i == 0 ? 1 : 0, 1, nullptr, 0.0);
+    FindNode(0, 2.0, 0.0)->label = "U1-3";
     TraceRec deleted;
     deleted.width = kDeletedTraceWidth;
     deleted.layer = 0;
@@ -206,7 +220,8 @@ TEST(WriteTraces, CountersKeepTheirGapsAndNodeSuffixesComeFromTheNodes) {
     EXPECT_EQ(Traces(),
               "TraceA_12 StartingNode = NodeA_4 EndingNode = NodeA_0 Width = 2.500000e-01mm "
               "Color = red\n"
-              "TraceA_13 StartingNode = NodeA_1 EndingNode = NodeA_2 Width = 2.500000e-01mm\n");
+              "TraceA_13 StartingNode = NodeA_1 EndingNode = NodeA_2!!U1-3 Width = "
+              "2.500000e-01mm\n");
 }
 
 TEST(WriteTraces, EmptyTableAndOffSignalTracesPrintNothing) {
