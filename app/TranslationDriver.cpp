@@ -12,7 +12,11 @@
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/PadBoundaries.h"
+#include "ndd/PadLibrary.h"
+#include "ndd/PadStackLayers.h"
 #include "ndd/Units.h"
+#include "ndd/ViaPass.h"
 #include "qfx/Skeleton.h"
 
 namespace {
@@ -91,6 +95,10 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
         size_t sep = base::LastSeparator(outputFile);
         std::string outputFolder =
             sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
+        TraceStep(true, "ParsePadDefData");
+        ParsePadDefData(inputFile);
+        ResolvePadStackLayers();
+        ExpandDefaultLayers();
         TraceStep(true, "Transfer");
         result = TranslateNddToQfx(inputFile, outputFile, outputFolder);
     }
@@ -144,6 +152,10 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     }
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
+    TraceStep(true, "ParsePadDef");
+    ParsePadDef(inputFile);
+    TraceStep(true, "ParseVia");
+    if (!ParseVia(inputFile)) return FailPipeline();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
     g_model.g_dbTinyTraceLimitSquared = unionLength * unionLength;
