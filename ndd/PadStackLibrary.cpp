@@ -171,8 +171,9 @@ void ParsePadStackLibrary(const std::string& path) {
         NddWordReader words(stream, line);
         words.Next();
         PadStackRec stack;
-        stack.name = StripQuotes(words.Next());
-        std::string key = UnderscoreBlanksAndCommas(stack.name);
+        // Nodes and vias print this name, so it is the map's key: blanks and commas as "_".
+        stack.name = UnderscoreBlanksAndCommas(StripQuotes(words.Next()));
+        std::string key = stack.name;
         ReadPadStackBody(words, key, stack);
         if (!key.empty()) g_model.g_padStacks.Set(key, std::move(stack));
     }

@@ -125,5 +125,6 @@ int ParseVia(const std::string& path) {
         ReportMessage("Insufficient Memory!");
         return 0;
     }
+    // The via lines are read; pins of placed parts follow as further vias.
     return 1;
 }

@@ -151,9 +151,11 @@ TEST_F(LayerStackTest, AnOutlineBeforeTheFirstLayerDoesNotEndThePass) {
 
 TEST_F(LayerStackTest, LongNamesKeepTheirFirst32Characters) {
     std::string longName(40, 'L');
-    ASSERT_EQ(Parse("%signal \"" + longName + "\" \"1\" \"x\" 1 \"CU\";\n"), 1);
+    std::string line = "%signal \"" + longName + "\" \"1\" \"x\" 1 \"CU\";\n";
+    ASSERT_EQ(Parse(line + line), 1);
     ASSERT_EQ(g_model.g_nLayerCount, 1);
     EXPECT_EQ(LayerName(Layer(0)), std::string(32, 'L'));
+    EXPECT_EQ(Kind(std::string(32, 'L')), "S");
 }
 
 TEST_F(LayerStackTest, A257thLayerStopsWithAMessageAndNoOverrun) {

@@ -113,7 +113,7 @@ TEST_F(PadLibraryTest, PadStackEntriesAndPads) {
         "%liblayer \"GHOST\" %pad 0 0 \"MISSING\";\n"
         "%end_padstackdef;\n");
     const PadStackRec& v = Stack("V_1");
-    EXPECT_EQ(v.name, "V 1");
+    EXPECT_EQ(v.name, "V_1");
     EXPECT_EQ(v.nType, 2);
     EXPECT_EQ(v.drill, 0.3 * 1.0 * 0.5);
     EXPECT_EQ(v.defaultLayerFlag, 0);
