@@ -42,29 +42,34 @@ void Lower(PadStackSizeRec& size, double radius) {
     if (radius < size.dbMinRadius) size.dbMinRadius = radius;
 }
 
+// Each shape leaves its coordinates, as written, in the corner list.
+
 // "%circle" x y d: d is the rest of the line less its last two characters.
-double CircleRadius(const std::string& fields) {
-    int pos = kNoPosition;
+double CircleRadius(const std::string& fields, PadStackSizeRec& size) {
     std::string rest = fields;
+    std::vector<std::string> centre;
     for (int i = 0; i < 2; ++i) {
-        NddGetToken(rest, pos);
+        int pos = kNoPosition;
+        centre.push_back(NddGetToken(rest, pos));
         rest = Mid(rest, pos);
-        pos = kNoPosition;
     }
+    size.lstRoundCorners = centre;
     std::string d = rest.size() >= 2 ? rest.substr(0, rest.size() - 2) : std::string();
     return ToDouble(d) * 0.5 * 0.7 * g_model.g_dbLengthScale;
 }
 
-double RectangleRadius(const std::string& fields) {
+double RectangleRadius(const std::string& fields, PadStackSizeRec& size) {
     auto t = NddTokenList(fields, 4);
+    size.lstRoundCorners = t;
     double x1 = ToDouble(t[0]), y1 = ToDouble(t[1]), x2 = ToDouble(t[2]), y2 = ToDouble(t[3]);
     return (2 * std::fabs(x1 - x2) + 2 * std::fabs(y1 - y2)) * 0.7 / kTwoPiShort;
 }
 
-// A line with round ends; along an axis its box, grown by half the width, becomes the
-// corner list.
+// A line with round ends; along an axis the corner list holds its box, grown by half the
+// width.
 double RoundLineRadius(const std::string& fields, PadStackSizeRec& size) {
     auto t = NddTokenList(fields, 5);
+    size.lstRoundCorners.assign(t.begin(), t.begin() + 4);
     double x1 = ToDouble(t[0]), y1 = ToDouble(t[1]), x2 = ToDouble(t[2]), y2 = ToDouble(t[3]);
     double w = ToDouble(t[4]);
     if (x1 == x2 || y1 == y2) {
@@ -113,9 +118,9 @@ bool ReadPadRadius(const std::string& line, PadStackSizeRec& size) {
 void ReadShapeRadii(const std::string& line, base::LineStream& stream, PadStackSizeRec& size) {
     if (Contains(line, "%round_endpoint_line"))
         Lower(size, RoundLineRadius(AfterKeyword(line, "%round_endpoint_line"), size));
-    if (Contains(line, "%circle")) Lower(size, CircleRadius(AfterKeyword(line, "%circle")));
+    if (Contains(line, "%circle")) Lower(size, CircleRadius(AfterKeyword(line, "%circle"), size));
     if (Contains(line, "%rectangle"))
-        Lower(size, RectangleRadius(AfterKeyword(line, "%rectangle")));
+        Lower(size, RectangleRadius(AfterKeyword(line, "%rectangle"), size));
     if (Contains(line, "%polygon"))
         Lower(size, GetPolygonRadius(AfterKeyword(line, "%polygon"), stream, size));
 }

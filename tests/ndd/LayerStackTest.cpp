@@ -149,6 +149,16 @@ TEST_F(LayerStackTest, AnOutlineBeforeTheFirstLayerDoesNotEndThePass) {
     EXPECT_EQ(LayerName(Layer(1)), "BOT");
 }
 
+TEST_F(LayerStackTest, PowerUnitAndPortLinesAreNoPlanes) {
+    ASSERT_EQ(
+        Parse("%power uW;\n%powerport \"U1\" \"VCC\";\n%power \"P_uW\" \"1\" \"x\" 1 \"CU\";\n"
+              "%powerplane \"PP\" \"2\" \"x\" 1 \"CU\";\n"),
+        1);
+    // Any line that begins with "%power" and holds none of the three words is a plane.
+    ASSERT_EQ(g_model.g_nLayerCount, 1);
+    EXPECT_EQ(LayerName(Layer(0)), "PP");
+}
+
 TEST_F(LayerStackTest, LongNamesKeepTheirFirst32Characters) {
     std::string longName(40, 'L');
     std::string line = "%signal \"" + longName + "\" \"1\" \"x\" 1 \"CU\";\n";

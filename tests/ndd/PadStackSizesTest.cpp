@@ -119,6 +119,9 @@ TEST_F(PadStackSizesTest, EquivalentRadiiOfTheFourInlineShapes) {
     EXPECT_EQ(
         Size("LINE")->lstRoundCorners,
         (std::vector<std::string>{"-2500.000000", "-2500.000000", "12500.000000", "2500.000000"}));
+    EXPECT_EQ(Size("RECT")->lstRoundCorners,
+              (std::vector<std::string>{"-20000", "-10000", "20000", "10000"}));
+    EXPECT_EQ(Size("CIRCLE")->lstRoundCorners, (std::vector<std::string>{"0", "0"}));
     EXPECT_DOUBLE_EQ(Size("POLY")->dbMinRadius, 12.0 / kTwoPi * 0.7);
     EXPECT_TRUE(Size("POLY")->lstRoundCorners.empty());
     EXPECT_EQ(Size("CIRCLE")->lstLibLayers, (std::vector<std::string>{"\"TOP\""}));
