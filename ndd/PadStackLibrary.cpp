@@ -12,6 +12,7 @@ namespace {
 
 constexpr int32_t kPadRectangle = 1;
 constexpr int32_t kPadCircle = 2;
+constexpr int32_t kPadPolygon = 3;
 
 const char* ShapeNameOfKind(int32_t kind) {
     switch (kind) {
@@ -41,7 +42,7 @@ std::shared_ptr<PadDefRec> MakePad(const PadLibRec& shape, bool anti, double off
     pad->shapeName = shapeName;
     pad->width = shape.width;
     pad->height = shape.height;
-    if (shape.kind == 3) pad->points = shape.points;
+    if (shape.kind == kPadPolygon) pad->points = shape.points;
     pad->offsetX = anti ? 0.0 : offsetX;
     pad->offsetY = anti ? 0.0 : offsetY;
     pad->layer = layer;
