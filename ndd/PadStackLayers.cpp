@@ -28,7 +28,6 @@ bool IsPlaneByKind(const std::string& layerName) {
 }  // namespace
 
 int ResolvePadLayer(const std::string& word, std::string& outName) {
-    outName.clear();
     if (EqualsNoCase(word, "%toppad")) return NamedLayer(FirstConductorLayer(), outName);
     if (EqualsNoCase(word, "%bottompad")) return NamedLayer(LastConductorLayer(), outName);
     if (EqualsNoCase(word, kDefaultLibLayer)) {

@@ -8,7 +8,7 @@ extern const char kDefaultLibLayer[];
 // Index of the layer that a pad layer word names, and that layer's name in outName: the top
 // or bottom conductor for "%toppad"/"%bottompad", -1 and the word itself for the default
 // entry, otherwise the first layer (a dielectric too) named so without case, or the first
-// plane for "POWER". -1 and an empty name when nothing matches.
+// plane for "POWER". -1, with outName left as it was, when nothing matches.
 int ResolvePadLayer(const std::string& word, std::string& outName);
 
 // Gives every padstack with one or two entries the layer of its first entry, or of its last

@@ -169,6 +169,17 @@ TEST_F(PadLibraryTest, ADefaultEntryIsOverwrittenByLaterLayerWords) {
     EXPECT_EQ(d.nType, 2);
 }
 
+TEST_F(PadLibraryTest, AnUnknownLayerWordLeavesTheDefaultEntryAsItWas) {
+    Load(
+        "%padstackdef \"D\"\n%liblayer \"%ALL_LAYERS\"\n%pad 0 0 \"C50\";\n"
+        "%liblayer \"NOWHERE\"\n%end_padstackdef\n");
+    const PadStackRec& d = Stack("D");
+    ASSERT_EQ(d.entries.size(), 1u);
+    EXPECT_EQ(d.entries[0].layerName, "%defaultliblayer");
+    EXPECT_EQ(d.entries[0].strLibLayer, "NOWHERE");
+    EXPECT_EQ(d.nType, 0);
+}
+
 TEST_F(PadLibraryTest, InlineBoundaries) {
     Load(
         "%padstackdef \"IN\"\n%liblayer \"%toppad\"\n"
@@ -203,7 +214,7 @@ TEST_F(PadLibraryTest, ResolvePadLayerWords) {
     EXPECT_EQ(ResolvePadLayer("d2", name), 3);  // dielectric layers are found too
     EXPECT_EQ(name, "D2");
     EXPECT_EQ(ResolvePadLayer("NONE", name), -1);
-    EXPECT_EQ(name, "");
+    EXPECT_EQ(name, "D2");
 }
 
 TEST_F(PadLibraryTest, DefaultEntriesExpandToTheConductorLayersLeftOver) {
