@@ -18,6 +18,7 @@
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
 #include "ndd/TraceReader.h"
+#include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
 #include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
@@ -176,6 +177,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
+
+    SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
