@@ -43,4 +43,39 @@ TEST(ShapePipeline, FillAndItsVoidAreCleanedSortedAndWritten) {
     EXPECT_EQ(at[4], ".EndShape");
 }
 
+TEST(ShapePipeline, GapOptionStrokesTheFillsOfPlaneLayers) {
+    ScratchDir dir;
+    dir.Write("a.ndd",
+              "%length mm;\n"
+              "%signal \"TOP\" \"1\" \"x\" 0.035 \"COPPER\";\n"
+              "%power \"GND\" \"2\" \"x\" 0.035 \"COPPER\";\n"
+              "%board_outline\n"
+              "%rectangle 0 0 20 20;\n"
+              "%port \"U1-1\" \"GND\";\n"
+              "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n"
+              "%rectangle 0 0 10 10;\n%end_boundary\n"
+              "%fill_area \"GND\" \"GND\";\n%begin_boundary\n%outline\n"
+              "%rectangle 0 0 10 10;\n%end_boundary\n");
+    // 4 mils: a gap of 0.1016 mm, circles of radius 0.0508 mm at each edge's end.
+    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", "-EXP", "4", "a.ndd"}), 0);
+    std::vector<std::string> lines = SplitLines(ReadFile(dir.File("a.qfx")));
+    auto top = std::find(lines.begin(), lines.end(), ".Shape Shape$TOP Color = green");
+    auto gnd = std::find(lines.begin(), lines.end(), ".Shape Shape$GND Color = green");
+    ASSERT_NE(top, lines.end());
+    ASSERT_NE(gnd, lines.end());
+    EXPECT_TRUE(top[1].rfind("Polygon0::GND+ ", 0) == 0) << top[1];
+    EXPECT_EQ(top[3], ".EndShape");
+    int circles = 0, elements = 0;
+    for (auto it = gnd + 1; it != lines.end() && *it != ".EndShape"; ++it) {
+        if (it->rfind("+", 0) == 0) continue;
+        ++elements;
+        if (it->rfind("Circle", 0) == 0) {
+            ++circles;
+            EXPECT_EQ(it->substr(it->size() - 14), "5.080000e-02mm") << *it;
+        }
+    }
+    EXPECT_EQ(4, circles);
+    EXPECT_EQ(1 + 4 + 4, elements);
+}
+
 }  // namespace
