@@ -11,12 +11,15 @@
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
+#include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"
+#include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 #include "ndd/Units.h"
 #include "qfx/LayerWriter.h"
@@ -164,6 +167,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ShowStage("Processing Shape Info...");
     TraceStep(true, "ParseElement");
     if (!ParseElement(inputFile)) return FailPipeline();
+    ParseHkpFile();
 
     if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
         AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
@@ -188,10 +192,22 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WritePackageHead(out);
 
     RebuildNodeArray();
+    ParseThermalTies();
 
     // The last copy of the node set: from here on the passes work on the array.
     RebuildNodeArray();
     RebuildNodeIndex();
+
+    TraceStep(true, "KickOutTrivialTrace");
+    KickOutTrivialTrace();
+    if (g_model.g_dbTinyTraceLimitSquared > 0) {
+        ShowStage("Clear tiny traces ...");
+        ClearTinyTraces();
+    }
+    // The gaps are new shapes: they are cleaned like the others, and the voids are checked
+    // again right after.
+    GenerateTraceGaps();
+    RunShapeCleanupRound();
 
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {
