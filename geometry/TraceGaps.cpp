@@ -6,7 +6,7 @@
 #include "geometry/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/SegmentRectangle.h"
-#include "geometry/ShapeTable.h"
+#include "geometry/ShapeLocator.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
 #include "ndd/LayoutModel.h"
@@ -20,24 +20,26 @@ bool HasNet(int32_t net) {
 // True when the first shape of the node's layer that holds the node's position is copper.
 // Copper of another net does not count when the node has a net; a void that holds the
 // position ends the search, since the table has small areas first.
-bool InOwnCopper(const NodeRec& node) {
-    const ShapeRun run = FindLayerShapeRun(node.layer);
-    for (int32_t i = run.first; i < run.end; ++i) {
+bool InOwnCopper(const NodeRec& node, ShapeLocator& locator) {
+    bool inCopper = false;
+    locator.Visit(node.layer, node.x, node.y, [&](int32_t i) {
         const ShapeRec& shape = g_model.g_aShapes[static_cast<size_t>(i)];
-        if (shape.polarity == kPolarityCopper && shape.net != node.net && HasNet(node.net))
-            continue;
-        if (PointInShape(i, node.x, node.y, true)) return shape.polarity == kPolarityCopper;
-    }
-    return false;
+        const bool copper = shape.polarity == kPolarityCopper;
+        if (copper && shape.net != node.net && HasNet(node.net)) return false;
+        if (!PointInShape(i, node.x, node.y, true)) return false;
+        inCopper = copper;
+        return true;
+    });
+    return inCopper;
 }
 
 // 1 for a trace that needs a gap: neither end lies in its own copper. A deleted trace needs
 // none: its width would turn the gap inside out over the whole board.
-int32_t NeedsGap(const TraceRec& trace) {
+int32_t NeedsGap(const TraceRec& trace, ShapeLocator& locator) {
     if (IsDeletedTrace(trace)) return 0;
     for (int32_t id : {trace.startNode, trace.endNode}) {
         const NodeRec* node = NodeById(id);
-        if (node && InOwnCopper(*node)) return 0;
+        if (node && InOwnCopper(*node, locator)) return 0;
     }
     return 1;
 }
@@ -54,7 +56,10 @@ void GenerateTraceGaps() {
     const std::string& percent = g_options.g_strTraceGapPercent;
     if (percent.empty() || std::atof(percent.c_str()) == 0.0) return;
     std::vector<TraceRec>& traces = g_model.g_aTraces;
-    for (TraceRec& trace : traces) trace.gap = NeedsGap(trace);
+    {
+        ShapeLocator locator;  // the gaps are added after all ends are tested
+        for (TraceRec& trace : traces) trace.gap = NeedsGap(trace, locator);
+    }
 
     TraceShapeCounts();
     for (const TraceRec& trace : traces) {

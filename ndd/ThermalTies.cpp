@@ -5,6 +5,7 @@
 
 #include "app/TranslationOptions.h"
 #include "geometry/PointOnNetShape.h"
+#include "geometry/ShapeLocator.h"
 #include "ndd/LayerLookup.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
@@ -90,7 +91,7 @@ struct Tie {
 
 // Adds the ties of the mask that reach copper of the net. Returns 0 when a trace could not be
 // added.
-int AddTies(const Tie& tie, int32_t net, int32_t layer) {
+int AddTies(const Tie& tie, int32_t net, int32_t layer, ShapeLocator& locator) {
     if (tie.mask < 1 || tie.mask > 15) return 1;
     const bool diagonal = tie.angle == 45;
     const double w = diagonal ? tie.w / std::sqrt(2.0) : tie.w;
@@ -99,7 +100,7 @@ int AddTies(const Tie& tie, int32_t net, int32_t layer) {
         if ((tie.mask & end.bit) == 0) continue;
         const double ex = end.dx == 0 ? tie.x : end.dx > 0 ? tie.x + w : tie.x - w;
         const double ey = end.dy == 0 ? tie.y : end.dy > 0 ? tie.y + h : tie.y - h;
-        if (!PointOnNetShape(ex, ey, net, layer)) continue;
+        if (!PointOnNetShape(locator, ex, ey, net, layer)) continue;
         if (!GrowTraceArrays()) return 0;
         if (!AddTraceRecord(tie.x, tie.y, ex, ey, tie.type->width, layer, net)) return 0;
     }
@@ -107,7 +108,8 @@ int AddTies(const Tie& tie, int32_t net, int32_t layer) {
 }
 
 // A "TTI " line. Returns 0 when the pass must end.
-int ReadTie(base::LineStream*& stream, const std::string& line, const TieArea& area) {
+int ReadTie(base::LineStream*& stream, const std::string& line, const TieArea& area,
+            ShapeLocator& locator) {
     int32_t net = kNoNet;
     if (!area.net.empty()) {
         net = NetIndexByName(area.net);
@@ -138,7 +140,7 @@ int ReadTie(base::LineStream*& stream, const std::string& line, const TieArea& a
     if (!tie.type) return 1;
     // The layer now carries traces, so it is written as a signal layer, tie or no tie.
     g_model.g_aLayers[layer].kind = kLayerSignal;
-    return AddTies(tie, net, layer);
+    return AddTies(tie, net, layer, locator);
 }
 
 }  // namespace
@@ -151,6 +153,7 @@ int ParseThermalTies() {
     g_model.g_mapThermalTieTypes.Clear();
     base::LineStream* stream = file.get();
     TieArea area;
+    ShapeLocator locator;  // the ties add traces only, so the shape table stands still
     std::string line;
     while (stream && stream->ReadLine(line, base::kWideLineBuffer)) {
         if (StartsWith(line, "TTT ")) {
@@ -158,7 +161,7 @@ int ParseThermalTies() {
         } else if (StartsWith(line, "ARS ")) {
             ReadArea(stream, line, area);
         } else if (StartsWith(line, "TTI ")) {
-            if (!ReadTie(stream, line, area)) return 0;
+            if (!ReadTie(stream, line, area, locator)) return 0;
         }
     }
     return 1;
