@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
+#include <random>
+#include <stdexcept>
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
@@ -255,6 +258,110 @@ TEST_F(TraceGapTest, EmptyOrZeroPercentAndDeletedTracesMakeNoGap) {
     GenerateTraceGaps();
     EXPECT_EQ(g_model.g_aTraces[0].gap, 0);
     EXPECT_TRUE(g_model.g_aShapes.empty());
+}
+
+}  // namespace
+
+namespace {
+
+// The tiny-trace pass as plainly written: each merge walks the whole table from its start.
+void PlainClearTinyTraces(std::vector<TraceRec>& traces, std::vector<NodeRec>& nodes,
+                          const std::vector<uint8_t>& flags, double limit) {
+    auto node = [&](int32_t id) -> NodeRec& {
+        for (NodeRec& n : nodes)
+            if (static_cast<int32_t>(n.id) == id) return n;
+        throw std::runtime_error("no node");
+    };
+    auto lower = [](NodeRec& n, int by) {
+        n.traceRefs = n.traceRefs > by ? static_cast<uint16_t>(n.traceRefs - by) : 0;
+    };
+    for (size_t t = 0; t < traces.size(); ++t) {
+        if (flags[t] != 0 || traces[t].width < 0) continue;
+        NodeRec& s = node(traces[t].startNode);
+        NodeRec& e = node(traces[t].endNode);
+        const double a = s.x - e.y, b = e.x - e.y;
+        if (std::sqrt(a * a + b * b) > limit) continue;
+        if (traces[t].startNode == traces[t].endNode) {
+            traces[t].width = kDeletedTraceWidth;
+            lower(s, 2);
+            continue;
+        }
+        auto held = [](const NodeRec& n) { return n.viaRefs != 0 || !n.label.empty(); };
+        NodeRec* going = &e;
+        NodeRec* staying = &s;
+        if (held(e)) {
+            if (held(s)) continue;
+            std::swap(going, staying);
+        }
+        traces[t].width = kDeletedTraceWidth;
+        int left = going->traceRefs > 0 ? going->traceRefs - 1 : 0;
+        lower(*staying, 1);
+        const int32_t gid = static_cast<int32_t>(going->id);
+        for (size_t j = 0; j < traces.size() && left != 0; ++j) {
+            if (traces[j].width == kDeletedTraceWidth) continue;
+            if (traces[j].startNode == gid) {
+                traces[j].startNode = static_cast<int32_t>(staying->id);
+                ++staying->traceRefs;
+                --left;
+            }
+            if (traces[j].endNode == gid) {
+                traces[j].endNode = static_cast<int32_t>(staying->id);
+                ++staying->traceRefs;
+                --left;
+            }
+        }
+        going->traceRefs = 0;
+    }
+    for (TraceRec& trace : traces) {
+        if (trace.startNode != trace.endNode || !(trace.width > kDeletedTraceWidth)) continue;
+        trace.width = kDeletedTraceWidth;
+        lower(node(trace.startNode), 2);
+    }
+}
+
+TEST(ClearTinyTraces, GivesWhatTheWalkOverTheWholeTableGives) {
+    std::mt19937 rng(11);
+    int deleted = 0, moved = 0;
+    for (int round = 0; round < 200; ++round) {
+        testing_support::ResetGlobals();
+        testing_support::MakeLayerStack({{"TOP", kLayerSignal}});
+        // Points on a small diagonal lattice: most traces measure tiny, ends are shared.
+        std::uniform_int_distribution<int> pick(0, 12);
+        auto coord = [&](int k) { return k * 0.05 + (k % 3) * 0.01; };
+        const int count = 5 + round % 40;
+        for (int i = 0; i < count; ++i) {
+            const int a = pick(rng), b = rng() % 4 ? pick(rng) : a;
+            const int c = pick(rng) % 3;
+            GrowTraceArrays();
+            AddTraceRecord(coord(a), coord(a + c), coord(b), coord(b + c), 0.1, 0, 0);
+            g_model.g_aTraceFlags.back() = rng() % 8 == 0;
+        }
+        RebuildNodeArray();
+        RebuildNodeIndex();
+        for (NodeRec& n : g_model.g_aNodes) {
+            if (rng() % 6 == 0) n.viaRefs = 1;
+            if (rng() % 9 == 0) n.label = "P";
+            if (rng() % 7 == 0) n.traceRefs = static_cast<uint16_t>(rng() % 4);
+        }
+        g_model.g_dbTinyTraceLimitSquared = 0.3;
+        std::vector<TraceRec> traces = g_model.g_aTraces;
+        const std::vector<TraceRec> before = traces;
+        std::vector<NodeRec> nodes = g_model.g_aNodes;
+        PlainClearTinyTraces(traces, nodes, g_model.g_aTraceFlags, 0.3);
+        ClearTinyTraces();
+        for (size_t t = 0; t < traces.size(); ++t) {
+            ASSERT_EQ(g_model.g_aTraces[t].startNode, traces[t].startNode) << round << " " << t;
+            ASSERT_EQ(g_model.g_aTraces[t].endNode, traces[t].endNode) << round << " " << t;
+            ASSERT_EQ(g_model.g_aTraces[t].width, traces[t].width) << round << " " << t;
+            deleted += traces[t].width == kDeletedTraceWidth;
+            moved += traces[t].startNode != before[t].startNode ||
+                     traces[t].endNode != before[t].endNode;
+        }
+        for (size_t k = 0; k < nodes.size(); ++k)
+            ASSERT_EQ(g_model.g_aNodes[k].traceRefs, nodes[k].traceRefs) << round << " " << k;
+    }
+    EXPECT_GT(deleted, 500);  // the rounds merge a lot ...
+    EXPECT_GT(moved, 200);    // ... and move traces between nodes
 }
 
 }  // namespace
