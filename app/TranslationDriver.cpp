@@ -11,6 +11,8 @@
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
+#include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
@@ -20,6 +22,7 @@
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
 #include "ndd/ParseElement.h"
+#include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 #include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
@@ -177,6 +180,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ShowStage("Processing Shape Info...");
     TraceStep(true, "ParseElement");
     if (!ParseElement(inputFile)) return FailPipeline();
+    ParseHkpFile();
 
     if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
         AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
@@ -185,8 +189,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
-    RunShapeCleanupRound();
 
+    RunShapeCleanupRound();
     SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
@@ -202,10 +206,22 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WritePackageHead(out);
 
     RebuildNodeArray();
+    ParseThermalTies();
 
     // The last copy of the node set: from here on the passes work on the array.
     RebuildNodeArray();
     RebuildNodeIndex();
+
+    TraceStep(true, "KickOutTrivialTrace");
+    KickOutTrivialTrace();
+    if (g_model.g_dbTinyTraceLimitSquared > 0) {
+        ShowStage("Clear tiny traces ...");
+        ClearTinyTraces();
+    }
+    // The gaps are new shapes: they are cleaned like the others, and the voids are checked
+    // again right after.
+    GenerateTraceGaps();
+    RunShapeCleanupRound();
 
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {
