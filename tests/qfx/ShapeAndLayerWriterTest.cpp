@@ -12,7 +12,7 @@ namespace {
 
 using testing_support::CaptureOutput;
 
-// A stack from a spec such as "S:TOP D:D1 P:GND": kind letter, colon, name.
+// A stack given as "S:TOP", "D:D1", "P:GND": kind letter, colon, name.
 void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035) {
     g_model.g_aLayers = std::make_unique<LayerRec[]>(kMaxLayers);
     g_model.g_nLayerCount = 0;
