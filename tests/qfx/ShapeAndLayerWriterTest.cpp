@@ -16,10 +16,10 @@ using testing_support::CaptureOutput;
 void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035) {
     g_model.g_aLayers = std::make_unique<LayerRec[]>(kMaxLayers);
     g_model.g_nLayerCount = 0;
-    for (const auto& spec : layers) {
+    for (const auto& entry : layers) {
         LayerRec& l = g_model.g_aLayers[g_model.g_nLayerCount];
-        l.kind = spec[0] == 'S' ? kLayerSignal : spec[0] == 'P' ? kLayerPlane : kLayerDielectric;
-        SetLayerName(l, spec.substr(2));
+        l.kind = entry[0] == 'S' ? kLayerSignal : entry[0] == 'P' ? kLayerPlane : kLayerDielectric;
+        SetLayerName(l, entry.substr(2));
         l.thickness = thickness;
         l.conductivity = 58;
         l.permittivity = 4.3;
