@@ -100,6 +100,21 @@ TEST(TranslationOrder, OutputWithAnotherExtensionIsWrittenUnderItsOwnName) {
     EXPECT_FALSE(std::ifstream(dir.File("b.txt.QFX")).good());
 }
 
+TEST(TranslationOrder, BareOutputNameStaysInTheCurrentFolder) {
+    ScratchDir dir;
+    ASSERT_EQ(std::system(("mkdir '" + dir.File("sub") + "'").c_str()), 0);
+    dir.Write("sub/a.ndd", "%length mm;\n");
+    EXPECT_EQ(RunProgram(dir.Path(), {"-NoUI", "sub/a.ndd", "b.qfx"}), 0);
+    // The input's folder becomes the working folder (error.log lands there), while the bare
+    // output name was completed with the folder the program started in.
+    EXPECT_FALSE(std::ifstream(dir.File("sub/b.qfx")).good());
+    std::vector<std::string> out = SplitLines(ReadFile(dir.File("b.qfx")));
+    ASSERT_FALSE(out.empty());
+    EXPECT_EQ(out.back(), ".End");
+    EXPECT_EQ(ReadFile(dir.File("sub/error.log")), "");
+    EXPECT_FALSE(std::ifstream(dir.File("error.log")).good());
+}
+
 TEST(Naming, TitleVersionTurnsCommasToDotsAndDropsBlanks) {
     EXPECT_EQ(TitleVersion("25, 1, 1"), "25.1.1");
     EXPECT_EQ(TitleVersion(" 1 ,0, 12"), "1.0.12");
