@@ -7,13 +7,16 @@
 #include "app/TraceStep.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
+#include "geometry/ShapeCleanupRound.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/ParseElement.h"
 #include "ndd/TraceReader.h"
 #include "ndd/Units.h"
 #include "qfx/LayerWriter.h"
@@ -159,11 +162,19 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     ShowStage("Processing Trace Info...");
     ShowStage("Processing Shape Info...");
+    TraceStep(true, "ParseElement");
+    if (!ParseElement(inputFile)) return FailPipeline();
+
+    if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
+        AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
+
     RebuildNodeArray();
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
+
+    RunShapeCleanupRound();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
