@@ -1,5 +1,6 @@
 #include "qfx/MakeVias.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -51,9 +52,11 @@ class ViaBuilder {
         DiscardEndVoid(shape);
         upperId_ = upper->id;
         upperNet_ = upper->net;
-        if (!via_.noContact)
-            for (int32_t L = via_.startLayer + 1; L < via_.endLayer; ++L)
+        if (!via_.noContact) {
+            const int32_t end = std::min<int32_t>(via_.endLayer, g_model.g_nLayerCount);
+            for (int32_t L = via_.startLayer + 1; L < end; ++L)
                 if (!MiddleLayer(L)) return false;
+        }
         return LowerEnd();
     }
 
@@ -70,8 +73,7 @@ class ViaBuilder {
     static double Limit() { return g_options.g_dbViaVoidArea / kOutputScale / kOutputScale; }
 
     bool MiddleLayer(int32_t L) {
-        if (L >= g_model.g_nLayerCount || g_model.g_aLayers[L].kind == kLayerDielectric)
-            return true;
+        if (g_model.g_aLayers[L].kind == kLayerDielectric) return true;
         if (NodeNear(L, ViaPadRadius(via_, L))) return Connect(L, false);
         const int32_t shape = ShapeAtCentre(L);
         if (shape == kNoShape) return true;
