@@ -18,8 +18,13 @@
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"
+#include "ndd/PadBoundaries.h"
+#include "ndd/PadLibrary.h"
+#include "ndd/PadStackLayers.h"
 #include "ndd/TraceReader.h"
+#include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
+#include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/MakeVias.h"
 #include "qfx/NodeWriter.h"
@@ -109,6 +114,10 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
         size_t sep = base::LastSeparator(outputFile);
         std::string outputFolder =
             sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
+        TraceStep(true, "ParsePadDefData");
+        ParsePadDefData(inputFile);
+        ResolvePadStackLayers();
+        ExpandDefaultLayers();
         TraceStep(true, "Transfer");
         result = TranslateNddToQfx(inputFile, outputFile, outputFolder);
     }
@@ -171,6 +180,10 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     }
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
+    TraceStep(true, "ParsePadDef");
+    ParsePadDef(inputFile);
+    TraceStep(true, "ParseVia");
+    if (!ParseVia(inputFile)) return FailPipeline();
     RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
@@ -191,6 +204,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     RebuildNodeArray();
 
     RunShapeCleanupRound();
+
+    SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
