@@ -91,3 +91,53 @@ TEST_F(VoidCheckPipelineTest, WithoutVoidOptionsTheCheckDoesNotRun) {
 }
 
 }  // namespace
+
+namespace {
+
+using namespace testing_support;
+
+std::vector<std::string> ViaLines(const std::string& qfx) {
+    std::vector<std::string> out;
+    for (const std::string& l : SplitLines(qfx))
+        if (l.rfind("Via", 0) == 0) out.push_back(l);
+    return out;
+}
+
+// Four conductor layers; a trace on the third one starts where the first via stands.
+TEST(ViaPipeline, ThroughViasGetAStretchForEachLayerTheyTouch) {
+    ResetGlobals();
+    ScratchDir dir;
+    WriteFile(dir.File("vias.ndd"),
+              "%length TN;\n"
+              "%dielectric_material \"FR4\" 4.3;\n"
+              "%conductor_material \"COPPER\" %resistivity 0.5;\n"
+              "%signal \"L1\" \"1\" \"x\" 3500 \"COPPER\";\n"
+              "%dielectric \"D1\" \"x\" \"FR4\" 20000;\n"
+              "%signal \"L2\" \"2\" \"x\" 3500 \"COPPER\";\n"
+              "%dielectric \"D2\" \"x\" \"FR4\" 20000;\n"
+              "%signal \"L3\" \"3\" \"x\" 3500 \"COPPER\";\n"
+              "%dielectric \"D3\" \"x\" \"FR4\" 20000;\n"
+              "%signal \"L4\" \"4\" \"x\" 3500 \"COPPER\";\n"
+              "%board_outline\n%rectangle 0 0 1000000 1000000;\n"
+              "%port \"U1-1\" \"N1\";\n"
+              "%paddef \"C50\"\n%begin_boundary\n%outline\n%circle 0 0 50000;\n%end_boundary\n"
+              "%end_paddef;\n"
+              "%padstackdef \"V\"\n%padstacktype \"%thruhole\"\n%drill 20000;\n"
+              "%liblayer \"%all_layers\"\n%pad 0 0 \"C50\";\n%end_padstackdef;\n"
+              "%via \"V\" 100000 100000 0 \"N1\";\n"
+              "%via \"V\" 700000 700000 0 \"N1\";\n"
+              "%trace \"L3\" 20000 100000 100000 500000 100000 \"N1\";\n");
+    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", "vias.ndd"}), 0);
+    // Nodes 0 and 1 are the trace's; the first via adds 2 (L1) and 3 (L4) and joins node 0 on
+    // L3; the second via, touching nothing in between, adds 4 and 5.
+    EXPECT_EQ(ViaLines(ReadFile(dir.File("vias.qfx"))),
+              (std::vector<std::string>{
+                  "Via1::N1 UpperNode = Node2::N1 LowerNode = Node0::N1 Color = red PadStack = V "
+                  "AbsoluteRotation = 0.000000",
+                  "Via2::N1 UpperNode = Node0::N1 LowerNode = Node3::N1 Color = red PadStack = V "
+                  "AbsoluteRotation = 0.000000",
+                  "Via3::N1 UpperNode = Node4::N1 LowerNode = Node5::N1 Color = red PadStack = V "
+                  "AbsoluteRotation = 0.000000"}));
+}
+
+}  // namespace
