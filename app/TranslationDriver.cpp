@@ -12,15 +12,18 @@
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
+#include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
-#include "ndd/ParseElement.h"
 #include "ndd/PadBoundaries.h"
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
+#include "ndd/ParseElement.h"
+#include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 #include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
@@ -193,6 +196,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ShowStage("Processing Shape Info...");
     TraceStep(true, "ParseElement");
     if (!ParseElement(inputFile)) return FailPipeline();
+    ParseHkpFile();
 
     if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
         AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
@@ -204,7 +208,6 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     RebuildNodeArray();
 
     RunShapeCleanupRound();
-
     SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
@@ -225,6 +228,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     }
 
     RebuildNodeArray();
+    ParseThermalTies();
 
     TraceStep(true, "Writing Via Info...");
     if (g_options.g_bTranslateVias) {
@@ -236,7 +240,16 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     RebuildNodeArray();
     RebuildNodeIndex();
 
-    // The trace gaps are new voids: check them with the others, silently.
+    TraceStep(true, "KickOutTrivialTrace");
+    KickOutTrivialTrace();
+    if (g_model.g_dbTinyTraceLimitSquared > 0) {
+        ShowStage("Clear tiny traces ...");
+        ClearTinyTraces();
+    }
+    // The gaps are new shapes: they are cleaned like the others, and the voids are checked
+    // again right after.
+    GenerateTraceGaps();
+    RunShapeCleanupRound();
     if (VoidCheckWanted()) CheckUndiscardableVoids();
 
     TraceStep(true, "Writing Shape Info...");

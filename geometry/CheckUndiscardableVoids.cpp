@@ -7,6 +7,7 @@
 #include "geometry/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeLocator.h"
+#include "geometry/ShapeTable.h"
 #include "geometry/TraceInVoid.h"
 #include "geometry/VoidTraceGrid.h"
 #include "ndd/LayoutModel.h"
@@ -52,7 +53,7 @@ bool IsSignalLayer(int32_t layer) {
 // A void holding the first point of an earlier copper shape of its layer holds an island:
 // dropping it would join the island to the fill around it. Since the table rises in area, an
 // island comes before the void around it.
-void MarkIslands(ShapeRun run, const LayerShapeLocator& locator) {
+void MarkIslands(ShapeRun run, ShapeLocator& locator) {
     auto& shapes = g_model.g_aShapes;
     const auto& points = g_model.g_aShapePoints;
     for (int32_t p = run.first; p < run.end; ++p) {
@@ -61,7 +62,8 @@ void MarkIslands(ShapeRun run, const LayerShapeLocator& locator) {
             static_cast<size_t>(island.firstPoint) >= points.size())
             continue;
         const ShapePoint pt = points[static_cast<size_t>(island.firstPoint)];
-        locator.Each(pt.x, pt.y, p, [&](int32_t v) {
+        locator.Visit(island.layer, pt.x, pt.y, [&](int32_t v) {
+            if (v <= p || v >= run.end) return false;
             ShapeRec& s = shapes[static_cast<size_t>(v)];
             if (IsVoid(s) && !s.undiscardable && PointInShape(v, pt.x, pt.y, true))
                 s.undiscardable = 1;
@@ -156,13 +158,14 @@ void CheckUndiscardableVoids(VoidCheckMode mode) {
     if (g_model.TraceCount() > 0) RebuildNodeIndex();
     std::vector<uint32_t> order = TracesByLayer();
     VoidTraceGrid grid;
+    ShapeLocator locator;
     const auto& shapes = g_model.g_aShapes;
     const int32_t count = g_model.ShapeCount();
     for (int32_t i = 0; i < count;) {
         ShapeRun run{i, i + 1};
         const int32_t layer = shapes[static_cast<size_t>(i)].layer;
         while (run.end < count && shapes[static_cast<size_t>(run.end)].layer == layer) ++run.end;
-        MarkIslands(run, LayerShapeLocator(run));
+        MarkIslands(run, locator);
         if (IsSignalLayer(layer)) LayerTraceCheck(order, grid).Run(run, mode);
         i = run.end;
     }

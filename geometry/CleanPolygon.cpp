@@ -27,7 +27,7 @@ constexpr int32_t kIndexedRing = 32;
 struct Frame {
     int32_t shape;
     int32_t a;
-    std::unique_ptr<SlitCandidates> index;  // made on demand, dropped when the ring changes
+    std::unique_ptr<SlitCandidates> index;  // made on demand, kept up to date through each cut
 };
 
 // The first edge b above a that runs on a's line over a shared stretch, or -1.
@@ -40,6 +40,9 @@ int32_t FindSlitPartner(Frame& f, std::vector<int32_t>& near) {
             f.index->Build(p, count);
         }
         if (f.index->Near(p, f.a, near)) {
+            // The closing edge ends at the first point, which a cut at a = 0 may have moved.
+            if (count - 1 > f.a && (near.empty() || near.back() != count - 1))
+                near.push_back(count - 1);
             for (int32_t b : near)
                 if (EdgesOverlap(p, f.a, b, count) == 0) return b;
             return -1;

@@ -4,102 +4,120 @@
 #include <cmath>
 
 #include "geometry/ShapeBoxes.h"
+#include "geometry/ShapeTable.h"
 #include "ndd/LayoutModel.h"
 
 namespace {
 
-constexpr int32_t kMaxCellsPerAxis = 256;
+constexpr int kMaxCells = 256;
 
-// The cell of a coordinate: floor((v - min) / size), held to [0, count). Monotonic in v, so a
-// point inside a box always falls between the cells of the box's two sides.
-int32_t CellOf(double v, double min, double size, int32_t count) {
-    if (count <= 1 || !(size > 0.0)) return 0;
-    double q = std::floor((v - min) / size);
-    if (!(q >= 0.0)) return 0;  // also NaN
-    if (q >= static_cast<double>(count - 1)) return count - 1;
-    return static_cast<int32_t>(q);
+// The cell of a coordinate. Monotonic in v, so a point inside a box falls in a cell between
+// the cells of the box's edges; values outside the grid are held to its border cells.
+int CellOf(double v, double min, double size, int count) {
+    if (count <= 1 || !(size > 0)) return 0;
+    const double c = std::floor((v - min) / size);
+    if (!(c >= 0)) return 0;
+    if (c >= count - 1) return count - 1;
+    return static_cast<int>(c);
 }
 
-bool Finite(const BoundingBox& b) {
+bool IsFiniteBox(const BoundingBox& b) {
     return std::isfinite(b.minX) && std::isfinite(b.minY) && std::isfinite(b.maxX) &&
            std::isfinite(b.maxY);
 }
 
+struct CellSpan {
+    int x0, y0, x1, y1;
+};
+
 }  // namespace
 
-int32_t LayerShapeLocator::Column(double x) const {
-    return CellOf(x, minX_, cellW_, columns_);
-}
-
-int32_t LayerShapeLocator::Row(double y) const {
-    return CellOf(y, minY_, cellH_, rows_);
-}
-
-LayerShapeLocator::LayerShapeLocator(ShapeRun run) : run_(run) {
+const ShapeLocator::LayerGrid& ShapeLocator::GridOf(int32_t layer) {
+    auto found = grids_.find(layer);
+    if (found != grids_.end()) return found->second;
+    LayerGrid& grid = grids_[layer];
+    const ShapeRun run = FindLayerShapeRun(layer);
+    grid.first = run.first;
+    grid.end = run.end;
     const int32_t count = run.end - run.first;
-    if (count <= 0) return;
-    boxes_.reserve(static_cast<size_t>(count));
-    double maxX = 0.0, maxY = 0.0;
-    bool any = false;
+    if (count < 16) return grid;
+
+    std::vector<BoundingBox> boxes;
+    boxes.reserve(static_cast<size_t>(count));
+    double minX = HUGE_VAL, minY = HUGE_VAL, maxX = -HUGE_VAL, maxY = -HUGE_VAL;
     for (int32_t i = run.first; i < run.end; ++i) {
-        boxes_.push_back(ShapeBox(i));
-        const BoundingBox& b = boxes_.back();
-        if (!Finite(b)) continue;
-        minX_ = any ? std::min(minX_, b.minX) : b.minX;
-        minY_ = any ? std::min(minY_, b.minY) : b.minY;
-        maxX = any ? std::max(maxX, b.maxX) : b.maxX;
-        maxY = any ? std::max(maxY, b.maxY) : b.maxY;
-        any = true;
+        boxes.push_back(ShapeBox(i));
+        const BoundingBox& b = boxes.back();
+        if (!IsFiniteBox(b)) continue;
+        minX = std::min(minX, b.minX);
+        minY = std::min(minY, b.minY);
+        maxX = std::max(maxX, b.maxX);
+        maxY = std::max(maxY, b.maxY);
     }
-    const int32_t side = std::min<int32_t>(
-        kMaxCellsPerAxis, static_cast<int32_t>(std::ceil(std::sqrt(static_cast<double>(count)))));
-    if (any && maxX - minX_ > 0.0) {
-        columns_ = side;
-        cellW_ = (maxX - minX_) / side;
-    }
-    if (any && maxY - minY_ > 0.0) {
-        rows_ = side;
-        cellH_ = (maxY - minY_) / side;
-    }
-    // Each shape goes into every cell its box covers; a side that is not a number covers the
-    // whole axis, since the box test cannot reject anything there.
-    auto span = [](double lo, double hi, double min, double size, int32_t n, int32_t& a,
-                   int32_t& b) {
-        a = std::isnan(lo) ? 0 : CellOf(lo, min, size, n);
-        b = std::isnan(hi) ? n - 1 : CellOf(hi, min, size, n);
-    };
-    const size_t cells = static_cast<size_t>(columns_) * static_cast<size_t>(rows_);
-    cellStart_.assign(cells + 1, 0);
-    for (int pass = 0; pass < 2; ++pass) {
-        std::vector<uint32_t> fill(cellStart_.begin(), cellStart_.end() - 1);
-        for (int32_t k = 0; k < count; ++k) {
-            const BoundingBox& b = boxes_[static_cast<size_t>(k)];
-            int32_t c0, c1, r0, r1;
-            span(b.minX, b.maxX, minX_, cellW_, columns_, c0, c1);
-            span(b.minY, b.maxY, minY_, cellH_, rows_, r0, r1);
-            for (int32_t r = r0; r <= r1; ++r)
-                for (int32_t c = c0; c <= c1; ++c) {
-                    size_t cell = static_cast<size_t>(r * columns_ + c);
-                    if (pass == 0)
-                        ++cellStart_[cell + 1];
-                    else
-                        entries_[fill[cell]++] = run.first + k;
-                }
+    if (!(minX <= maxX && minY <= maxY)) return grid;
+
+    // A grid of about one shape per cell, made coarser while big boxes would fill too many
+    // cells.
+    int side = std::min(kMaxCells, static_cast<int>(std::sqrt(static_cast<double>(count))));
+    std::vector<CellSpan> spans(boxes.size());
+    for (; side > 1; side /= 2) {
+        grid.columns = maxX > minX ? side : 1;
+        grid.rows = maxY > minY ? side : 1;
+        grid.minX = minX;
+        grid.minY = minY;
+        grid.cellW = (maxX - minX) / grid.columns;
+        grid.cellH = (maxY - minY) / grid.rows;
+        uint64_t entries = 0;
+        for (size_t k = 0; k < boxes.size(); ++k) {
+            const BoundingBox& b = boxes[k];
+            // A box with a NaN edge passes every box test: it goes into every cell.
+            const bool all = std::isnan(b.minX) || std::isnan(b.minY) || std::isnan(b.maxX) ||
+                             std::isnan(b.maxY);
+            spans[k] = all ? CellSpan{0, 0, grid.columns - 1, grid.rows - 1}
+                           : CellSpan{CellOf(b.minX, minX, grid.cellW, grid.columns),
+                                      CellOf(b.minY, minY, grid.cellH, grid.rows),
+                                      CellOf(b.maxX, minX, grid.cellW, grid.columns),
+                                      CellOf(b.maxY, minY, grid.cellH, grid.rows)};
+            entries += static_cast<uint64_t>(spans[k].x1 - spans[k].x0 + 1) *
+                       static_cast<uint64_t>(spans[k].y1 - spans[k].y0 + 1);
         }
-        if (pass == 0) {
-            for (size_t c = 0; c < cells; ++c) cellStart_[c + 1] += cellStart_[c];
-            entries_.resize(cellStart_[cells]);
-        }
+        if (entries <= 16 * static_cast<uint64_t>(count) + 65536) break;
     }
+    if (side <= 1) {
+        grid.columns = grid.rows = 1;
+        return grid;
+    }
+
+    const size_t cells = static_cast<size_t>(grid.columns) * static_cast<size_t>(grid.rows);
+    grid.offsets.assign(cells + 1, 0);
+    for (const CellSpan& s : spans)
+        for (int y = s.y0; y <= s.y1; ++y)
+            for (int x = s.x0; x <= s.x1; ++x)
+                ++grid.offsets[static_cast<size_t>(y) * grid.columns + x + 1];
+    for (size_t c = 1; c <= cells; ++c) grid.offsets[c] += grid.offsets[c - 1];
+    grid.shapes.resize(grid.offsets.back());
+    std::vector<uint32_t> fill(grid.offsets.begin(), grid.offsets.end() - 1);
+    for (size_t k = 0; k < spans.size(); ++k) {
+        const CellSpan& s = spans[k];
+        for (int y = s.y0; y <= s.y1; ++y)
+            for (int x = s.x0; x <= s.x1; ++x)
+                grid.shapes[fill[static_cast<size_t>(y) * grid.columns + x]++] =
+                    run.first + static_cast<int32_t>(k);
+    }
+    return grid;
 }
 
-const LayerShapeLocator& ShapeLocator::Layer(int32_t layer) {
-    if (layer < 0 || layer >= kMaxLayers) {
-        other_ = std::make_unique<LayerShapeLocator>(FindLayerShapeRun(layer));
-        return *other_;
+void ShapeLocator::Visit(int32_t layer, double x, double y,
+                         const std::function<bool(int32_t)>& visit) {
+    const LayerGrid& grid = GridOf(layer);
+    if (grid.offsets.empty() || std::isnan(x) || std::isnan(y)) {
+        for (int32_t i = grid.first; i < grid.end; ++i)
+            if (visit(i)) return;
+        return;
     }
-    if (layers_.empty()) layers_.resize(kMaxLayers);
-    auto& slot = layers_[static_cast<size_t>(layer)];
-    if (!slot) slot = std::make_unique<LayerShapeLocator>(FindLayerShapeRun(layer));
-    return *slot;
+    const size_t cell =
+        static_cast<size_t>(CellOf(y, grid.minY, grid.cellH, grid.rows)) * grid.columns +
+        static_cast<size_t>(CellOf(x, grid.minX, grid.cellW, grid.columns));
+    for (uint32_t k = grid.offsets[cell]; k < grid.offsets[cell + 1]; ++k)
+        if (visit(grid.shapes[k])) return;
 }

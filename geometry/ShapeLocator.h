@@ -1,62 +1,36 @@
 #pragma once
-// Finds the shapes of a layer whose bounding box holds a point, in table order, without
-// walking the whole layer: vias and the void check ask this once for every via, layer and
-// island, and a layer may hold tens of thousands of shapes.
+// Finds the shapes of a layer that may hold a point without walking the whole layer. Passes
+// that ask "which is the first shape of this layer, in table order, that holds the point?"
+// for every trace end or tie would otherwise cost traces times shapes.
 //
-// The answer is exactly the set of shapes whose box (ShapeBox) holds the point, borders
-// included, which is the box test that PointInShape makes first; the cells only narrow the
-// search. Build it after SortShapes and do not add shapes while it is in use.
-#include <algorithm>
+// Each layer's run of the sorted shape table gets a grid over the shapes' bounding boxes; a
+// shape is entered in every cell its box touches, in table order. A point's cell then lists,
+// in table order, every shape whose box holds the point (on the box counts as in), so a walk
+// over the cell with the box test gives the same first hit as a walk over the whole run.
 #include <cstdint>
-#include <memory>
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
-#include "geometry/ShapeTable.h"
-
-class LayerShapeLocator {
-  public:
-    explicit LayerShapeLocator(ShapeRun run);
-
-    // Calls visit(i) for every shape i of the run whose box holds (x, y), in rising table
-    // order, starting above the index after (all when after is below the run). Stops when
-    // visit returns true, and then answers true.
-    template <class Visit>
-    bool Each(double x, double y, int32_t after, Visit&& visit) const;
-
-  private:
-    int32_t Column(double x) const;
-    int32_t Row(double y) const;
-
-    ShapeRun run_;
-    int32_t columns_ = 1, rows_ = 1;
-    double minX_ = 0.0, minY_ = 0.0, cellW_ = 0.0, cellH_ = 0.0;
-    std::vector<uint32_t> cellStart_;  // rows_ * columns_ + 1 offsets into entries_
-    std::vector<int32_t> entries_;     // shape indices, rising within each cell
-    std::vector<BoundingBox> boxes_;   // by index - run_.first
-};
-
-// One locator for each layer, made when a layer is first asked for.
 class ShapeLocator {
   public:
-    const LayerShapeLocator& Layer(int32_t layer);
+    // Works on the shape table and boxes as they stand: build it after SortShapes and use it
+    // while the table does not change.
+    ShapeLocator() = default;
+
+    // Calls visit(i) in rising table order for the shapes of layer that may hold (x, y), until
+    // visit returns true. Every shape whose box holds the point is among them.
+    void Visit(int32_t layer, double x, double y, const std::function<bool(int32_t)>& visit);
 
   private:
-    std::vector<std::unique_ptr<LayerShapeLocator>> layers_;
-    std::unique_ptr<LayerShapeLocator> other_;  // for a layer index out of the usual range
-};
+    struct LayerGrid {
+        int32_t first = 0, end = 0;  // the layer's run, or all of it when the grid is 1 x 1
+        int columns = 1, rows = 1;
+        double minX = 0, minY = 0, cellW = 0, cellH = 0;
+        std::vector<uint32_t> offsets;  // cell -> start in shapes; one more entry at the end
+        std::vector<int32_t> shapes;
+    };
 
-template <class Visit>
-bool LayerShapeLocator::Each(double x, double y, int32_t after, Visit&& visit) const {
-    if (run_.first == run_.end) return false;
-    const size_t cell = static_cast<size_t>(Row(y) * columns_ + Column(x));
-    auto end = entries_.begin() + cellStart_[cell + 1];
-    auto it = std::upper_bound(entries_.begin() + cellStart_[cell], end, after);
-    for (; it != end; ++it) {
-        const BoundingBox& b = boxes_[static_cast<size_t>(*it - run_.first)];
-        // The same comparisons as the box test of PointInShape, so a box with a NaN side
-        // lets the point through there too.
-        if (x < b.minX || x > b.maxX || y < b.minY || y > b.maxY) continue;
-        if (visit(*it)) return true;
-    }
-    return false;
-}
+    const LayerGrid& GridOf(int32_t layer);
+    std::unordered_map<int32_t, LayerGrid> grids_;
+};

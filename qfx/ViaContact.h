@@ -5,6 +5,7 @@
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeBoxes.h"
 #include "geometry/ShapeLocator.h"
+#include "geometry/ShapeTable.h"
 #include "ndd/ViaRec.h"
 
 constexpr int32_t kNoShape = -1;
@@ -31,19 +32,19 @@ template <class Accept>
 int32_t FirstShapeHolding(int32_t layer, double x, double y, ShapeLocator* locator,
                           Accept&& accept) {
     int32_t found = kNoShape;
+    auto visit = [&](int32_t i) {
+        const BoundingBox b = ShapeBox(i);
+        if (x < b.minX || x > b.maxX || y < b.minY || y > b.maxY) return false;
+        if (!accept(i)) return false;
+        found = i;
+        return true;
+    };
     if (locator) {
-        locator->Layer(layer).Each(x, y, -1, [&](int32_t i) {
-            if (!accept(i)) return false;
-            found = i;
-            return true;
-        });
+        locator->Visit(layer, x, y, visit);
         return found;
     }
     const ShapeRun run = FindLayerShapeRun(layer);
-    for (int32_t i = run.first; i < run.end; ++i) {
-        const BoundingBox b = ShapeBox(i);
-        if (x < b.minX || x > b.maxX || y < b.minY || y > b.maxY) continue;
-        if (accept(i)) return i;
-    }
-    return kNoShape;
+    for (int32_t i = run.first; i < run.end; ++i)
+        if (visit(i)) break;
+    return found;
 }

@@ -68,9 +68,11 @@ TEST_F(VoidCheckPipelineTest, AnUndiscardableVoidOpeningItsSectionKeepsTheSmallV
                                         "Polygon5::GND-", "Polygon4::GND-", "Polygon3::GND+",
                                         "Circle2::GND-", "Circle1::VCC-", "Polygon0::GND-"}));
     // On GND the round void goes by itself; the VCC island opens the section, and with its
-    // flag clear the void around it (4 mm², undiscardable) goes too. The 6 mm² void stays.
+    // flag clear the void around it (4 mm², undiscardable) goes too. The 6 mm² void and the
+    // two whole-board fills stay.
     EXPECT_EQ(Section(qfx, "GND"),
-              (std::vector<std::string>{"Polygon13::GND+", "Polygon12::GND-", "Polygon10::VCC+"}));
+              (std::vector<std::string>{"Polygon14::GND+", "Polygon13::GND+", "Polygon12::GND-",
+                                        "Polygon10::VCC+"}));
     const std::vector<std::string> expected = {"Writing PKG header ...",
                                                "Check Undiscardable Void Shapes ...",
                                                "Writing Via Info...", "Writing Shape Info..."};
