@@ -17,8 +17,13 @@
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/PadBoundaries.h"
+#include "ndd/PadLibrary.h"
+#include "ndd/PadStackLayers.h"
 #include "ndd/TraceReader.h"
+#include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
+#include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"
@@ -103,6 +108,10 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
         size_t sep = base::LastSeparator(outputFile);
         std::string outputFolder =
             sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
+        TraceStep(true, "ParsePadDefData");
+        ParsePadDefData(inputFile);
+        ResolvePadStackLayers();
+        ExpandDefaultLayers();
         TraceStep(true, "Transfer");
         result = TranslateNddToQfx(inputFile, outputFile, outputFolder);
     }
@@ -210,6 +219,10 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     }
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
+    TraceStep(true, "ParsePadDef");
+    ParsePadDef(inputFile);
+    TraceStep(true, "ParseVia");
+    if (!ParseVia(inputFile)) return FailPipeline();
     RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
@@ -222,6 +235,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
+
+    SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
