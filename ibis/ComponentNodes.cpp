@@ -217,7 +217,7 @@ void ComponentNodes::AddExtraPinNode(PinRec& pin, ComponentRec& c) {
     double y = c.y + pin.y;
     uint32_t before = g_model.g_nNodeCount;
     const NodeRec* rec = nullptr;
-    int32_t id = AddNode(&rec, x, y, c.layer, net, 0, nullptr, 0.0);
+    int32_t id = AddNode(&rec, x, y, c.layer, net, 1, nullptr, 0.0);
     if (id < 0 || !rec) return;
     rec->label = pin.name;
     if (g_model.g_nNodeCount != before) {

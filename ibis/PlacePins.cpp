@@ -96,7 +96,7 @@ void PlacePin(const ComponentRec& c, PinRec& pin) {
     int32_t netIndex = net.empty() ? kNoNet : NetIndexByName(net);
 
     const NodeRec* node = nullptr;
-    int32_t id = AddNode(&node, x, y, layer, netIndex, 0, stack, rotation);
+    int32_t id = AddNode(&node, x, y, layer, netIndex, 1, stack, rotation);
     if (id < 0 || !node) throw std::bad_alloc();
     pin.nodeId = std::to_string(id);
     node->label = pin.name;

@@ -83,6 +83,7 @@ TEST_F(PlacePinsTest, TopSurfacePinBecomesANodeOnThePadstackLayer) {
     EXPECT_EQ(node.net, 1);
     EXPECT_EQ(node.label, "1");
     EXPECT_EQ(node.mirrored, 0);
+    EXPECT_EQ(node.contact, 1);
     EXPECT_EQ(node.rotation, 20.0);
     EXPECT_EQ(node.padStack, g_model.g_padStacks.Find("SMD"));
     EXPECT_EQ(pin.nodeId, "0");
