@@ -7,11 +7,15 @@
 #include "app/TraceStep.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
+#include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/Parts.h"
+#include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
@@ -20,6 +24,8 @@
 #include "ndd/PadBoundaries.h"
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
+#include "ndd/ParseElement.h"
+#include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 #include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
@@ -230,12 +236,19 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     ShowStage("Processing Trace Info...");
     ShowStage("Processing Shape Info...");
+    TraceStep(true, "ParseElement");
+    if (!ParseElement(inputFile)) return FailPipeline();
+    ParseHkpFile();
+
+    if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
+        AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
     RebuildNodeArray();
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
 
+    RunShapeCleanupRound();
     SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
@@ -251,10 +264,22 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WritePackageHead(out);
 
     RebuildNodeArray();
+    ParseThermalTies();
 
     // The last copy of the node set: from here on the passes work on the array.
     RebuildNodeArray();
     RebuildNodeIndex();
+
+    TraceStep(true, "KickOutTrivialTrace");
+    KickOutTrivialTrace();
+    if (g_model.g_dbTinyTraceLimitSquared > 0) {
+        ShowStage("Clear tiny traces ...");
+        ClearTinyTraces();
+    }
+    // The gaps are new shapes: they are cleaned like the others, and the voids are checked
+    // again right after.
+    GenerateTraceGaps();
+    RunShapeCleanupRound();
 
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {
