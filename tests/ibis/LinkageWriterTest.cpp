@@ -5,6 +5,7 @@
 #include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/NodeSet.h"
+#include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/ModelAssignment.h"
@@ -56,6 +57,7 @@ class LinkageTest : public ::testing::Test {
         OneSignalLayer();
         Nets({"N1", "N2"});
     }
+    void TearDown() override { g_bKeepActiveFormForTests = false; }
     void Bind() {
         RebuildNodeArray();
         RebuildNodeIndex();
@@ -227,6 +229,47 @@ TEST_F(LinkageTest, ATraceAcrossThePadGivesThePinANode) {
     Linkage(&log);
     EXPECT_EQ(g_model.g_aNodes.size(), 5u);
     EXPECT_EQ(nodes->extraNodes.size(), 1u);
+}
+
+TEST_F(LinkageTest, ActiveFormSwitchedOnTiesIbisNodesAndPowerGroups) {
+    g_bKeepActiveFormForTests = true;
+    ResetGlobals();
+    OneSignalLayer();
+    Nets({"N7", "VCC"});
+    AddNode(nullptr, 1.0, 0.0, 0, 0, 0, nullptr, 0.0);  // node 0 under pin 7
+    AddNode(nullptr, 3.0, 0.0, 0, 1, 0, nullptr, 0.0);  // node 1 under power pin 9
+    RebuildNodeArray();
+    RebuildNodeIndex();
+    ComponentRec u;
+    u.refDes = "U1", u.partNumber = "U74", u.blockName = "U74_PKG", u.isActive = 1;
+    PinRec out, spare, power;
+    out.name = "7", out.net = "N7", out.pinClass = 0, out.nodeId = "0";
+    out.ioNode = "nd_out_7_3-state", out.pullupRef = "VCCGRP";
+    for (const char* node : {"nd_pu", "nd_pd", "nd_out", "nd_pc", "nd_gc"})
+        out.nodeNames.push_back(std::string(node) + "_7_3-state");
+    spare.name = "8", spare.net = "N7", spare.pinClass = 0;
+    power.name = "9", power.net = "VCC", power.pinClass = 1, power.nodeId = "1";
+    u.pins = {out, spare, power};
+    u.pinNodes.Set("7", "0");
+    GroupRec group;
+    group.name = "VCCGRP", group.kind = "PU", group.pins = {"9"};
+    u.groups.Set("VCCGRP", group);
+    g_model.g_mapComponents.Set("U1", u);
+    models.ibisParts.Set("U74", "T");
+    nodes = std::make_unique<ComponentNodes>(&g_model.g_mapComponents, &models, "in.ndd", nullptr,
+                                             nullptr, "");
+    nodes->RebuildNodePosition();
+    std::string log;
+    std::string text = Linkage(&log);
+    EXPECT_EQ(text,
+              "* Linkage description line\n"
+              ".Connect U1 U74_PKG\n"
+              "nd_out_7_3-state $Package.Node0!!7::N7\n"
+              "VCCGRP $Package.Node1!!9::VCC\n"
+              ".EndC\n"
+              "\n");
+    // The empty power clamp was mended from the pullup, since the model has nd_pc.
+    EXPECT_EQ(g_model.g_mapComponents.Find("U1")->pins.front().powerClampRef, "VCCGRP");
 }
 
 }  // namespace
