@@ -53,6 +53,8 @@ class TranslationDriver {
     void EmptyComponentLists();
     void BindComponentModels(const std::string& inputFile, const std::string& outputFolder);
     int FailPipeline();
+    // MakeVias failed: output and log are closed and cleared.
+    int FailMakeVias();
 };
 
 // Frees the per-translation arrays of the model.
