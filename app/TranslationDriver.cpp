@@ -13,6 +13,9 @@
 #include "geometry/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/TraceCleanup.h"
+#include "ibis/CircuitWriter.h"
+#include "ibis/LinkageWriter.h"
+#include "ibis/Parts.h"
 #include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
@@ -23,9 +26,9 @@
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
 #include "ndd/ParseElement.h"
+#include "ndd/SurfacePads.h"
 #include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
-#include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
 #include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
@@ -104,6 +107,7 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
         RunSettingsStep();
 
     int result = ReadDesignData(inputFile);
+    if (result) result = ReadComponentData(inputFile, outputFile);
     if (result) {
         if (inputFile.empty() || outputFile.empty())
             return Fail("File name empty. Please provide the file name!");
@@ -131,7 +135,9 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
 // Units, nets and the other library-level data that the pipeline's passes bind to.
 int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     if (m_bReread) {
+        EmptyComponentLists();
         ParseUnits(inputFile);
+        ReadAliasProperties(inputFile);
         auto stream = OpenNdd(inputFile);
         if (!stream) {
             TraceStep(true, "fail to open %s", inputFile.c_str());
@@ -148,6 +154,59 @@ int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     TraceStep(true, "ParseLayer");
     if (!ParseLayer(inputFile)) return 0;
     return 1;
+}
+
+void TranslationDriver::EmptyComponentLists() {
+    // The model assignment points into the component table: it goes first.
+    g_pComponentNodes.reset();
+    g_pModelAssignment.reset();
+    g_model.g_mapComponents.Clear();
+    g_model.g_mapPartPower.Clear();
+    m_mapIbisAssignments.Clear();
+    m_lstUnresolvedParts.clear();
+}
+
+// Packages, placements, pin nets and power ports, then the models of the components.
+int TranslationDriver::ReadComponentData(const std::string& inputFile,
+                                         const std::string& outputFile) {
+    if (m_bReread) {
+        auto packages = OpenNdd(inputFile);
+        if (packages) ReadPackageDefs(*packages);
+    }
+    TraceStep(true, "GetCompPlacementInfo");
+    auto stream = OpenNdd(inputFile);
+    if (!stream) return 0;
+    GetCompPlacementInfo(*stream, 1);
+    stream->Rewind();
+    TraceStep(true, "GetPinNetInfo");
+    GetPinNetInfo(*stream, inputFile);
+    stream.reset();
+    ReadPartPowerPorts(inputFile);
+    ApplyPowerPorts();
+    if (m_bReread) {
+        if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
+        g_options.g_pTempLogFile = std::fopen((outputFile + "temp.log").c_str(), "w");
+        g_pModelAssignment = std::make_unique<ModelAssignment>(
+            &g_model.g_mapComponents, outputFile, g_options.g_pOutputFile, g_options.g_pTempLogFile,
+            &m_mapIbisAssignments, inputFile);
+        g_pModelAssignment->ResolveModels();
+        g_pModelAssignment->ibisParts.Clear();
+        for (const std::string& part : m_lstUnresolvedParts)
+            g_pModelAssignment->ibisParts.Set(part, "T");
+    }
+    return 1;
+}
+
+// Pins to package nodes, between two rounds of copying each block's model to its members.
+void TranslationDriver::BindComponentModels(const std::string& inputFile,
+                                            const std::string& outputFolder) {
+    g_pComponentNodes = std::make_unique<ComponentNodes>(
+        &g_model.g_mapComponents, g_pModelAssignment.get(), inputFile, g_options.g_pOutputFile,
+        g_options.g_pLogFile, outputFolder);
+    if (!g_pModelAssignment) return;
+    for (ComponentRec* c : g_pModelAssignment->components) g_pModelAssignment->CopyBlockModel(*c);
+    g_pComponentNodes->BindPinsToNodes(g_pModelAssignment->blocks);
+    for (ComponentRec* c : g_pModelAssignment->components) g_pModelAssignment->CopyBlockModel(*c);
 }
 
 int TranslationDriver::FailPipeline() {
@@ -169,7 +228,6 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
                                          const std::string& outputFile,
                                          const std::string& outputFolder) {
     (void)outputFile;
-    (void)outputFolder;
     if (g_options.g_nQuiet == 0) SetProgress(0);
     ShowStage("Begin ...");
     g_model.g_dbWorkMinX = g_options.g_dbSpatialMinX;
@@ -262,6 +320,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         WriteLayers(out);
     }
 
+    BindComponentModels(inputFile, outputFolder);
+
     ShowStage("Writing Node Info...");
     TraceStep(true, "MakeNode");
     MakeNode();
@@ -276,6 +336,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);
+    WriteCircuitDescription(out, g_pModelAssignment.get());
+    WriteLinkageDescription(out, g_options.g_pLogFile, g_pComponentNodes.get());
     WriteFileEnd(out);
     std::fclose(out);
     g_options.g_pOutputFile = nullptr;

@@ -8,7 +8,13 @@
 // The class holds no window: the main dialog derives from it and overrides the hooks that
 // show stages, move the progress bar and run the Settings step, so the translation itself is
 // the same code in a batch run with no toolkit.
+#include <memory>
 #include <string>
+#include <vector>
+
+#include "base/StringMap.h"
+#include "ibis/ComponentNodes.h"
+#include "ibis/ModelAssignment.h"
 
 class TranslationDriver {
   public:
@@ -27,6 +33,15 @@ class TranslationDriver {
     // The input must be read afresh: true after construction, a new input or a log load.
     bool m_bReread = true;
 
+    // Part numbers to IBIS model assignments, made in Translate; components with their
+    // package nodes, made by the pipeline. Both live for one translation.
+    std::unique_ptr<ModelAssignment> g_pModelAssignment;
+    std::unique_ptr<ComponentNodes> g_pComponentNodes;
+    // Part number to the IBIS file chosen for it.
+    base::StringMap<std::string> m_mapIbisAssignments{base::kComponentBuckets};
+    // Part numbers whose models the user has yet to settle; they take part in the IBIS step.
+    std::vector<std::string> m_lstUnresolvedParts;
+
   protected:
     virtual void OnStage(const std::string& /*text*/) {}
     // The Settings step of a dialog run, offered when no traces file has been chosen.
@@ -34,6 +49,9 @@ class TranslationDriver {
 
   private:
     int ReadDesignData(const std::string& inputFile);
+    int ReadComponentData(const std::string& inputFile, const std::string& outputFile);
+    void EmptyComponentLists();
+    void BindComponentModels(const std::string& inputFile, const std::string& outputFolder);
     int FailPipeline();
     // MakeVias failed: output and log are closed and cleared.
     int FailMakeVias();

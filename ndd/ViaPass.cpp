@@ -5,6 +5,7 @@
 #include "app/Progress.h"
 #include "app/ReportMessage.h"
 #include "app/TranslationOptions.h"
+#include "ibis/Parts.h"
 #include "ndd/LayerLookup.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
@@ -126,5 +127,6 @@ int ParseVia(const std::string& path) {
         return 0;
     }
     // The via lines are read; pins of placed parts follow as further vias.
-    return 1;
+    stream.reset();
+    return PlacePins();
 }

@@ -56,7 +56,9 @@ TEST(PadStackPipelineTest, APadstackCutOffByTheEndOfTheFileEndsCleanly) {
     std::string qfx = ReadFile(dir.File("cut.qfx"));
     // The second "%padstackdef" is a word inside the first record, which the file ends.
     EXPECT_TRUE(HasLine(qfx, ".PadStackDef V 1.000000e-01mm"));
-    EXPECT_NE(qfx.find(".EndPackage\n.End\n"), std::string::npos);
+    EXPECT_NE(qfx.find(".EndPackage\n* Circuit description block\n\n* Linkage description line\n\n"
+                       ".End\n"),
+              std::string::npos);
 }
 
 }  // namespace

@@ -59,11 +59,11 @@ TEST(TranslationOrder, StartRoutineAndDriverTraceTheirSteps) {
                                             "Begin"};
     ASSERT_GE(lines.size(), start.size());
     EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 7), start);
-    EXPECT_TRUE(
-        InOrder(lines, {"Begin", "ParseNet", "ParseLayer", "ParsePadDefData", "Transfer",
-                        "ParsePadDef", "ParseVia", "ParseElement", "ParseTrace, ParseArcTrace",
-                        "output", "MakePackage", "KickOutTrivialTrace", "Writing Shape Info...",
-                        "MakeNode", "MakeTrace", "Translation completed"}));
+    EXPECT_TRUE(InOrder(
+        lines, {"Begin", "ParseNet", "ParseLayer", "GetCompPlacementInfo", "GetPinNetInfo",
+                "ParsePadDefData", "Transfer", "ParsePadDef", "ParseVia", "ParseElement",
+                "ParseTrace, ParseArcTrace", "output", "MakePackage", "KickOutTrivialTrace",
+                "Writing Shape Info...", "MakeNode", "MakeTrace", "Translation completed"}));
     EXPECT_EQ(lines.back(), "Translation completed");
 }
 

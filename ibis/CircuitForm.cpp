@@ -1,0 +1,3 @@
+#include "ibis/CircuitForm.h"
+
+bool g_bKeepActiveFormForTests = false;

@@ -1,0 +1,84 @@
+#include "base/Platform.h"
+#include "ibis/Parts.h"
+#include "ibis/PropertyNames.h"
+#include "ndd/LayoutModel.h"
+#include "ndd/NddTokens.h"
+
+namespace {
+
+// What stays current from one gate line to the next.
+struct GateState {
+    ComponentRec* component = nullptr;
+    std::string partNumber;
+    std::string port;
+    std::string net;
+};
+
+// The value of a line that names the property (or its alias) in its first or second token:
+// the second token, or the third on a "%prop" line. False when the line does not name it.
+bool PropertyValue(const std::string& line, const char* key, std::string& value) {
+    std::string alias = PropertyAlias(key);
+    std::string token0 = StripQuotes(NddToken(line, 1));
+    std::string token1 = StripQuotes(NddToken(line, 2));
+    if (token0 != key && token0 != alias && token1 != key && token1 != alias) return false;
+    value = Contains(line, "%prop") ? StripQuotes(NddToken(line, 3)) : token1;
+    return true;
+}
+
+std::string InputFolder(const std::string& inputPath) {
+    size_t sep = base::LastSeparator(inputPath);
+    return sep == std::string::npos ? std::string() : inputPath.substr(0, sep + 1);
+}
+
+bool IsPortLine(const std::string& line) {
+    return Contains(line, "%port") && !Contains(line, "%portdef") && !Contains(line, "%portswap") &&
+           !Contains(line, "%portgroup");
+}
+
+void SetPartNumber(GateState& state, const std::string& partNumber, const std::string& folder) {
+    state.partNumber = partNumber;
+    if (!state.component) return;
+    state.component->partNumber = partNumber;
+    if (state.component->ibisFile.empty())
+        state.component->ibisFile = folder + "IBISModels" + base::kSep + partNumber + ".ibs";
+}
+
+void GateLine(const std::string& line, GateState& state, const std::string& folder) {
+    std::string value;
+    if (!Contains(line, "%port") && PropertyValue(line, kRefDesProperty, value)) {
+        state.component = g_model.g_mapComponents.Find(value);
+        if (state.component && !state.partNumber.empty())
+            state.component->partNumber = state.partNumber;
+    } else if (PropertyValue(line, kPartNumberProperty, value)) {
+        SetPartNumber(state, value, folder);
+    } else if (IsPortLine(line)) {
+        state.port = StripQuotes(NddToken(line, 2));
+        state.net = StripQuotes(NddToken(line, 3));
+    } else if (StartsWith(line, "%powerport")) {
+        state.net = StripQuotes(NddToken(line, 3));
+        state.port = StripQuotes(NddToken(line, 4));
+    } else if (PropertyValue(line, kPinNumberProperty, value)) {
+        state.port = value;
+        if (!state.component) return;
+        for (PinRec& pin : state.component->pins)
+            if (pin.name == value) pin.net = state.net;
+    }
+}
+
+}  // namespace
+
+void GetPinNetInfo(base::LineStream& stream, const std::string& inputPath) {
+    std::string folder = InputFolder(inputPath);
+    GateState state;
+    bool inGates = false;
+    std::string line;
+    while (stream.ReadLine(line, base::kNddLineBuffer)) {
+        if (line[0] == '#') continue;
+        if (!inGates) {
+            if (!Contains(line, "%gate") || Contains(line, "%gatedef")) continue;
+            inGates = true;
+        }
+        if (StartsWith(line, "%net") || StartsWith(line, "%part")) return;
+        GateLine(line, state, folder);
+    }
+}

@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include "TestSupport.h"
+#include "app/TranslationOptions.h"
+#include "ibis/CircuitForm.h"
+#include "ibis/CircuitWriter.h"
+#include "ibis/ModelAssignment.h"
+#include "ndd/LayoutModel.h"
+
+using testing_support::CaptureOutput;
+using testing_support::ResetGlobals;
+
+namespace {
+
+ComponentRec& AddComponent(const std::string& refDes, const std::string& partNumber,
+                           const std::string& value, const std::vector<std::string>& pins) {
+    ComponentRec c;
+    c.refDes = refDes;
+    c.partNumber = partNumber;
+    c.packageName = "PKG";
+    c.value = value;
+    for (const std::string& name : pins) {
+        PinRec pin;
+        pin.name = name;
+        c.pins.push_back(pin);
+    }
+    return g_model.g_mapComponents.Set(refDes, c);
+}
+
+std::string Circuit(ModelAssignment& models) {
+    return CaptureOutput([&](FILE* f) { WriteCircuitDescription(f, &models); });
+}
+
+class CircuitWriterTest : public ::testing::Test {
+  protected:
+    void SetUp() override { ResetGlobals(); }
+    void TearDown() override { g_bKeepActiveFormForTests = false; }
+    ModelAssignment models{
+        &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
+};
+
+TEST_F(CircuitWriterTest, ResistorBlockHasTerminalsElementAndEnd) {
+    AddComponent("R1", "RES", "RES 10K", {"1", "2"}).value = "10K";
+    models.ResolveModels();
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  RES_10K ExtNode = 1 2\n"
+              "R 1 2 10K\n"
+              ".EndPartialCkt\n"
+              "\n");
+    // A second writing gives the same text.
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  RES_10K ExtNode = 1 2\n"
+              "R 1 2 10K\n"
+              ".EndPartialCkt\n"
+              "\n");
+}
+
+TEST_F(CircuitWriterTest, AffixAndMarksInTheBlockName) {
+    g_options.g_strNameAffix = "A_";
+    AddComponent("C1", "CAP,X", "4.7uF", {"2", "1"});
+    models.ResolveModels();
+    EXPECT_EQ(*models.blocks.Keys().begin(), "CAP,X_4_7u");
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  A_CAP_X_4_7u ExtNode = 1 2\n"
+              "C 2 1 4.7u\n"
+              ".EndPartialCkt\n"
+              "\n");
+}
+
+TEST_F(CircuitWriterTest, UnknownKindGivesAnEmptyBlock) {
+    AddComponent("X1", "PN", "", {"1", "2"});
+    models.ResolveModels();
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  PN_PKG ExtNode = 1 2\n"
+              ".EndPartialCkt\n"
+              "\n");
+}
+
+TEST_F(CircuitWriterTest, ElementLineBreaksBehindEveryTenthName) {
+    ComponentRec c;
+    c.kind = "R";
+    c.value = "1K";
+    for (int i = 1; i <= 12; ++i) {
+        PinRec pin;
+        pin.name = std::to_string(i);
+        c.pins.push_back(pin);
+    }
+    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10\n+ 11 12 1K\n");
+    c.pins.resize(10);
+    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10 1K\n");
+    c.value.clear();
+    c.pins.resize(2);
+    EXPECT_EQ(PassiveElementLine(c), "R 1 2 \n");
+    c.kind = "?";
+    EXPECT_EQ(PassiveElementLine(c), "");
+}
+
+TEST_F(CircuitWriterTest, TerminalsAreSortedAndWrapPastSeventyFiveCharacters) {
+    ComponentRec c;
+    c.blockName = "BLOCK";
+    for (int i = 12; i >= 1; --i) {
+        PinRec pin;
+        char name[16];
+        std::snprintf(name, sizeof name, "PIN_%02d", i);
+        pin.name = name;
+        c.pins.push_back(pin);
+    }
+    // 28 characters before the names; the seventh name brings the line to 77.
+    EXPECT_EQ(PassiveBlockText(c),
+              ".PartialCkt  BLOCK ExtNode = PIN_01 PIN_02 PIN_03 PIN_04 PIN_05 PIN_06 PIN_07\n"
+              "+ PIN_08 PIN_09 PIN_10 PIN_11 PIN_12\n"
+              ".EndPartialCkt\n");
+    ComponentRec d;
+    d.blockName = "B";
+    for (const char* name : {"b", "10", "A", "2", "a", "1"}) {
+        PinRec pin;
+        pin.name = name;
+        d.pins.push_back(pin);
+    }
+    EXPECT_EQ(PassiveBlockText(d), ".PartialCkt  B ExtNode = 1 10 2 A a b\n.EndPartialCkt\n");
+}
+
+TEST_F(CircuitWriterTest, NeighbouringEqualBlocksArePrintedOnce) {
+    // "A,B" and "A_B" give different block names but the same printed text.
+    AddComponent("R1", "A,B", "1K", {"1", "2"});
+    AddComponent("R2", "A_B", "1K", {"1", "2"});
+    models.ResolveModels();
+    ASSERT_EQ(models.blocks.Size(), 2u);
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  A_B_1K ExtNode = 1 2\n"
+              "R 1 2 1K\n"
+              ".EndPartialCkt\n"
+              "\n");
+}
+
+TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
+    ComponentRec a, b, other;
+    a.blockName = b.blockName = "SAME";
+    other.blockName = "OTHER";
+    for (ComponentRec* c : {&a, &b, &other}) {
+        c->pins.resize(2);
+        c->pins.front().name = "1";
+        c->pins.back().name = "2";
+    }
+    std::vector<std::string> keys;
+    for (const char* key : {"k1", "k2", "k3"}) models.blocks.Set(key, nullptr);
+    keys = models.blocks.Keys();
+    *models.blocks.Find(keys[0]) = &a;
+    *models.blocks.Find(keys[1]) = &other;
+    *models.blocks.Find(keys[2]) = &b;
+    std::string same = ".PartialCkt  SAME ExtNode = 1 2\n.EndPartialCkt\n";
+    std::string text = Circuit(models);
+    EXPECT_EQ(text, "* Circuit description block\n" + same +
+                        ".PartialCkt  OTHER ExtNode = 1 2\n.EndPartialCkt\n" + same + "\n");
+}
+
+TEST_F(CircuitWriterTest, BothLinkageOptionsOffPrintNothing) {
+    AddComponent("R1", "RES", "10K", {"1", "2"});
+    models.ResolveModels();
+    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
+    EXPECT_EQ(Circuit(models), "");
+    g_options.g_bTranslateLinkages = 1;
+    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
+}
+
+// A three-pin IBIS part: two signal pins with models and a power pin.
+ComponentRec& IbisPart(ModelAssignment& models) {
+    ComponentRec& u = AddComponent("U1", "U74", "", {"7", "8", "9"});
+    u.ibisFile = "/x/U74.ibs";
+    auto pin = u.pins.begin();
+    pin->net = "N7", pin->pinClass = 0, pin->hasModel = 1, pin->modelType = "3-state";
+    pin->modelName = "OUT3", pin->powerClampRef = "VCC1", pin->pulldownRef = "NC";
+    ++pin;
+    pin->net = "N8", pin->pinClass = 0, pin->hasModel = 1, pin->modelType = "Open_source";
+    pin->modelName = "OS", pin->pulldownRef = "GNDX";
+    ++pin;
+    pin->net = "VCC", pin->pinClass = 1, pin->modelName = "POWER";
+    models.blocks.Set("U74_PKG", &u);
+    models.ibisParts.Set("U74", "T");
+    u.blockName = "U74_PKG";
+    return u;
+}
+
+TEST_F(CircuitWriterTest, ActiveFormIsOffAndEveryComponentIsPassive) {
+    IbisPart(models);
+    EXPECT_EQ(Circuit(models),
+              "* Circuit description block\n"
+              ".PartialCkt  U74_PKG ExtNode = 7 8 9\n"
+              ".EndPartialCkt\n"
+              "\n");
+}
+
+TEST_F(CircuitWriterTest, ActiveFormSwitchedOnPrintsInstancesWithFallbacks) {
+    g_bKeepActiveFormForTests = true;
+    ComponentRec& u = IbisPart(models);
+    u.pins.front().gndClampRef = "";
+    u.pins.front().pulldownRef = "GND1";
+    // Pin 7: pullup empty takes the power clamp (the model has nd_pc); gnd clamp empty takes
+    // the pulldown (the model has nd_pd). Pin 8: the model has no nd_pd, so its empty gnd
+    // clamp keeps the node's own name although a pulldown is set.
+    std::string expected =
+        "* Circuit description block\n"
+        ".PartialCkt  U74_PKG \n"
+        "b_7_3-state VCC1 GND1 nd_out_7_3-state nd_in_7_3-state nd_en_7_3-state "
+        "gnd_7_3-state VCC1 GND1\n"
+        "+ file='/x/U74.ibs' model='OUT3'\n"
+        "b_8_Open_source nd_pu_8_Open_source nd_out_8_Open_source nd_in_8_Open_source "
+        "gnd_8_Open_source nd_pc_8_Open_source nd_gc_8_Open_source\n"
+        "+ file='/x/U74.ibs' model='OS'\n"
+        ".EndPartialCkt\n"
+        "\n";
+    EXPECT_EQ(Circuit(models), expected);
+
+    // An "NC" reference is written as the node's own name, and is no fallback reason.
+    u.pins.front().pulldownRef = "NC";
+    u.pins.front().gndClampRef = "GNDC";
+    std::string text = Circuit(models);
+    EXPECT_NE(text.find("b_7_3-state VCC1 nd_pd_7_3-state nd_out_7_3-state"), std::string::npos)
+        << text;
+    EXPECT_NE(text.find("gnd_7_3-state VCC1 GNDC\n"), std::string::npos) << text;
+}
+
+TEST_F(CircuitWriterTest, ActiveBlockNeedsTheIbisStepAnInstanceAndNoFileError) {
+    g_bKeepActiveFormForTests = true;
+    ComponentRec& u = IbisPart(models);
+    models.ibisParts.Clear();
+    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
+    models.ibisParts.Set("U74", "T");
+    u.ibisError = 1;
+    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
+    u.ibisError = 0;
+    for (PinRec& pin : u.pins) pin.net.clear();
+    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
+}
+
+}  // namespace

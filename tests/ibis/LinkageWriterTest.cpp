@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "TestSupport.h"
+#include "app/TranslationOptions.h"
+#include "geometry/NodeSet.h"
+#include "ibis/CircuitForm.h"
+#include "ibis/ComponentNodes.h"
+#include "ibis/LinkageWriter.h"
+#include "ibis/ModelAssignment.h"
+#include "ndd/LayoutModel.h"
+#include "ndd/NetTable.h"
+
+using testing_support::CaptureOutput;
+using testing_support::ResetGlobals;
+
+namespace {
+
+void Nets(const std::vector<std::string>& sortedNames) {
+    for (const std::string& name : sortedNames) {
+        NetRec rec;
+        std::strncpy(rec.name, name.c_str(), kNetNameBytes - 1);
+        g_model.g_strNetNames.push_back(rec);
+    }
+    g_model.g_nNetCount = static_cast<int32_t>(sortedNames.size());
+    BuildDisplayNetNames();
+}
+
+void OneSignalLayer() {
+    g_model.g_aLayers.reset(new LayerRec[kMaxLayers]);
+    SetLayerName(g_model.g_aLayers[0], "TOP");
+    g_model.g_aLayers[0].kind = kLayerSignal;
+    g_model.g_nLayerCount = 1;
+}
+
+ComponentRec& TwoPinPart(const std::string& refDes, double x, double y, const std::string& net1,
+                         const std::string& net2) {
+    ComponentRec c;
+    c.refDes = refDes;
+    c.partNumber = "RES";
+    c.packageName = "R0603";
+    c.value = "10K";
+    c.x = x, c.y = y;
+    c.placement = "%topplace ";
+    PinRec a, b;
+    a.name = "1", a.x = a.libX = -0.5, a.net = net1;
+    b.name = "2", b.x = b.libX = 0.5, b.net = net2;
+    c.pins = {a, b};
+    return g_model.g_mapComponents.Set(refDes, c);
+}
+
+class LinkageTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ResetGlobals();
+        OneSignalLayer();
+        Nets({"N1", "N2"});
+    }
+    void TearDown() override { g_bKeepActiveFormForTests = false; }
+    void Bind() {
+        RebuildNodeArray();
+        RebuildNodeIndex();
+        models.ResolveModels();
+        nodes = std::make_unique<ComponentNodes>(&g_model.g_mapComponents, &models, "in.ndd",
+                                                 nullptr, nullptr, "/out/");
+        bindLog = CaptureOutput([&](FILE* f) {
+            nodes->log = f;
+            nodes->BindPinsToNodes(models.blocks);
+            nodes->log = nullptr;
+        });
+    }
+    std::string Linkage(std::string* log) {
+        std::string out;
+        *log = CaptureOutput([&](FILE* logFile) {
+            out = CaptureOutput([&](FILE* f) { WriteLinkageDescription(f, logFile, nodes.get()); });
+        });
+        return out;
+    }
+    ModelAssignment models{
+        &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
+    std::unique_ptr<ComponentNodes> nodes;
+    std::string bindLog;
+};
+
+TEST_F(LinkageTest, PinsBindToNodesAtTheirPrintedPlace) {
+    AddNode(nullptr, 0.5, 2.0, 0, 0, 0, nullptr, 0.0);  // node 0, net N1
+    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);  // node 1, net N2
+    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
+    Bind();
+    EXPECT_EQ(bindLog, "\n\nComponent Model Info :\n\n1] Component RefDes : R1 ");
+    std::string log;
+    EXPECT_EQ(Linkage(&log),
+              "* Linkage description line\n"
+              ".Connect R1 RES_10K\n"
+              "1 $Package.Node0!!1::N1\n"
+              "2 $Package.Node1!!2::N2\n"
+              ".EndC\n"
+              "\n");
+    EXPECT_EQ(log,
+              "\n\nComponent Linkage Info :\n\n"
+              "\nTotal No Of Components Not Linked = 0\n");
+    EXPECT_EQ(g_model.g_aNodes[0].label, "1");
+    EXPECT_EQ(g_model.g_mapComponents.Find("R1")->pins.front().nodeId, "0");
+}
+
+TEST_F(LinkageTest, KeysCompareSixDecimalsWithoutTolerance) {
+    EXPECT_EQ(NodeKey(0.5000004, -2.0, 3), "0.500000#-2.000000#3");
+    AddNode(nullptr, 0.5000004, 2.0, 0, 0, 0, nullptr, 0.0);  // prints as 0.500000
+    AddNode(nullptr, 1.5000006, 2.0, 0, 1, 0, nullptr, 0.0);  // prints as 1.500001
+    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
+    Bind();
+    const ComponentRec& r1 = *g_model.g_mapComponents.Find("R1");
+    EXPECT_EQ(r1.pins.front().nodeId, "0");
+    EXPECT_EQ(r1.pins.back().nodeId, "");
+}
+
+TEST_F(LinkageTest, AComponentWithOneLinkedPinIsNotLinked) {
+    AddNode(nullptr, 0.5, 2.0, 0, 0, 0, nullptr, 0.0);
+    TwoPinPart("U7", 1.0, 2.0, "N1", "N2");
+    Bind();
+    std::string log;
+    EXPECT_EQ(Linkage(&log), "* Linkage description line\n\n");
+    EXPECT_EQ(log,
+              "\n\nComponent Linkage Info :\n\n"
+              "1] Component : U7 is Not Linked\n"
+              "\nTotal No Of Components Not Linked = 1\n");
+}
+
+TEST_F(LinkageTest, NoNetNodesAndUnselectedNetsStayOut) {
+    AddNode(nullptr, 0.5, 2.0, 0, kNoNet, 0, nullptr, 0.0);
+    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);
+    TwoPinPart("R1", 1.0, 2.0, "", "N2");
+    Bind();
+    const ComponentRec& r1 = *g_model.g_mapComponents.Find("R1");
+    EXPECT_EQ(r1.pins.front().nodeId, "");  // no-net nodes are left out of the key map
+    std::string log;
+    EXPECT_EQ(Linkage(&log), "* Linkage description line\n\n");
+
+    // With no-net elements included the pin binds and is linked without a net label.
+    ResetGlobals();
+    OneSignalLayer();
+    Nets({"N1", "N2"});
+    g_options.g_nIncludeNoNetEtches = 1;
+    AddNode(nullptr, 0.5, 2.0, 0, kNoNet, 0, nullptr, 0.0);
+    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);
+    TwoPinPart("R1", 1.0, 2.0, "", "N2");
+    Bind();
+    EXPECT_EQ(Linkage(&log),
+              "* Linkage description line\n"
+              ".Connect R1 RES_10K\n"
+              "1 $Package.Node0!!1\n"
+              "2 $Package.Node1!!2::N2\n"
+              ".EndC\n"
+              "\n");
+}
+
+TEST_F(LinkageTest, LabelsComeFromTheNodeWhenTheyDiffer) {
+    AddNode(nullptr, 0.5, 2.0, 0, 0, 0, nullptr, 0.0);
+    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);
+    ComponentRec& r1 = TwoPinPart("R1", 1.0, 2.0, "n1", "N9");
+    Bind();
+    // Another pin on the same node took its label afterwards.
+    g_model.g_aNodes[1].label = "B2";
+    (void)r1;
+    std::string log;
+    EXPECT_EQ(Linkage(&log),
+              "* Linkage description line\n"
+              ".Connect R1 RES_10K\n"
+              "1 $Package.Node0!!1::n1\n"
+              "2 $Package.Node1!!B2::N2\n"
+              ".EndC\n"
+              "\n");
+}
+
+TEST_F(LinkageTest, LinkagesOffPrintNeitherCommentNorLog) {
+    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
+    Bind();
+    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
+    std::string log;
+    EXPECT_EQ(Linkage(&log), "");
+    EXPECT_EQ(log, "");
+}
+
+TEST_F(LinkageTest, ATraceAcrossThePadGivesThePinANode) {
+    PadStackRec stack;
+    stack.name = "SMD";
+    g_model.g_padStacks.Set("SMD", stack);
+    auto size = std::make_unique<PadStackSizeRec>();
+    size->name = "SMD";
+    size->lstRoundCorners = {"-10000.000000", "-5000.000000", "10000.000000", "5000.000000"};
+    g_model.g_mapPadStackSizes.Set("SMD", size.get());
+    g_model.g_lstPadStackSizes.push_back(std::move(size));
+
+    // A trace of N1 from (9.5, 10) ends inside pin 1's pad, which spans x 9.9..10.1.
+    int32_t a = AddNode(nullptr, 9.5, 10.0, 0, 0, 0, nullptr, 0.0);
+    int32_t b = AddNode(nullptr, 10.02, 10.0, 0, 0, 0, nullptr, 0.0);
+    TraceRec trace;
+    trace.layer = 0, trace.startNode = a, trace.endNode = b, trace.width = 0.1;
+    g_model.g_aTraces.push_back(trace);
+    // And one of N2 that passes pin 2's pad (x 10.9..11.1) above it.
+    int32_t c = AddNode(nullptr, 10.5, 10.2, 0, 1, 0, nullptr, 0.0);
+    int32_t d = AddNode(nullptr, 11.5, 10.2, 0, 1, 0, nullptr, 0.0);
+    trace.startNode = c, trace.endNode = d;
+    g_model.g_aTraces.push_back(trace);
+
+    ComponentRec& r1 = TwoPinPart("R1", 10.5, 10.0, "N1", "N2");
+    for (PinRec& pin : r1.pins) {
+        pin.padStackName = "SMD";
+        pin.padStack = g_model.g_padStacks.Find("SMD");
+    }
+    Bind();
+    ASSERT_EQ(r1.pins.front().nodeId, "");
+    std::string log;
+    Linkage(&log);
+    EXPECT_EQ(r1.pins.front().nodeId, "4");
+    EXPECT_EQ(r1.pins.back().nodeId, "");
+    ASSERT_EQ(nodes->extraNodes.size(), 1u);
+    EXPECT_EQ(nodes->extraNodes[0],
+              "Node4!!1::N1 X= 1.000000e+01mm Y= 1.000000e+01mm Layer = Signal$TOP Contact = 1\n");
+    const NodeRec* node = nodes->NodeOf("4");
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(node->label, "1");
+    EXPECT_EQ(node->net, 0);
+    EXPECT_EQ(node->x, 10.0);
+    EXPECT_EQ(g_model.g_aNodes.size(), 5u);
+    // One linked pin only: the component is reported, and a second writing adds no node.
+    EXPECT_NE(log.find("1] Component : R1 is Not Linked\n"), std::string::npos);
+    Linkage(&log);
+    EXPECT_EQ(g_model.g_aNodes.size(), 5u);
+    EXPECT_EQ(nodes->extraNodes.size(), 1u);
+}
+
+TEST_F(LinkageTest, ActiveFormSwitchedOnTiesIbisNodesAndPowerGroups) {
+    g_bKeepActiveFormForTests = true;
+    ResetGlobals();
+    OneSignalLayer();
+    Nets({"N7", "VCC"});
+    AddNode(nullptr, 1.0, 0.0, 0, 0, 0, nullptr, 0.0);  // node 0 under pin 7
+    AddNode(nullptr, 3.0, 0.0, 0, 1, 0, nullptr, 0.0);  // node 1 under power pin 9
+    RebuildNodeArray();
+    RebuildNodeIndex();
+    ComponentRec u;
+    u.refDes = "U1", u.partNumber = "U74", u.blockName = "U74_PKG", u.isActive = 1;
+    PinRec out, spare, power;
+    out.name = "7", out.net = "N7", out.pinClass = 0, out.nodeId = "0";
+    out.ioNode = "nd_out_7_3-state", out.pullupRef = "VCCGRP";
+    for (const char* node : {"nd_pu", "nd_pd", "nd_out", "nd_pc", "nd_gc"})
+        out.nodeNames.push_back(std::string(node) + "_7_3-state");
+    spare.name = "8", spare.net = "N7", spare.pinClass = 0;
+    power.name = "9", power.net = "VCC", power.pinClass = 1, power.nodeId = "1";
+    u.pins = {out, spare, power};
+    u.pinNodes.Set("7", "0");
+    GroupRec group;
+    group.name = "VCCGRP", group.kind = "PU", group.pins = {"9"};
+    u.groups.Set("VCCGRP", group);
+    g_model.g_mapComponents.Set("U1", u);
+    models.ibisParts.Set("U74", "T");
+    nodes = std::make_unique<ComponentNodes>(&g_model.g_mapComponents, &models, "in.ndd", nullptr,
+                                             nullptr, "");
+    nodes->RebuildNodePosition();
+    std::string log;
+    std::string text = Linkage(&log);
+    EXPECT_EQ(text,
+              "* Linkage description line\n"
+              ".Connect U1 U74_PKG\n"
+              "nd_out_7_3-state $Package.Node0!!7::N7\n"
+              "VCCGRP $Package.Node1!!9::VCC\n"
+              ".EndC\n"
+              "\n");
+    // The empty power clamp was mended from the pullup, since the model has nd_pc.
+    EXPECT_EQ(g_model.g_mapComponents.Find("U1")->pins.front().powerClampRef, "VCCGRP");
+}
+
+}  // namespace
