@@ -2,8 +2,12 @@
 
 #include <unistd.h>
 
+#include <sys/stat.h>
+
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <vector>
 
 #include "app/TraceStep.h"
@@ -61,6 +65,22 @@ int RunTranslation(const std::string& input, const std::string& folder) {
     return result;
 }
 
+// The board copied into folder, so that files looked for beside the input are looked for there.
+std::string CopyBoard(const std::string& boardPath, const std::string& folder) {
+    static std::string text;
+    static std::string from;
+    if (from != boardPath) {
+        std::ifstream in(boardPath, std::ios::binary);
+        std::stringstream ss;
+        ss << in.rdbuf();
+        text = ss.str();
+        from = boardPath;
+    }
+    std::string copy = folder + "/board.ndd";
+    WriteBytes(copy, reinterpret_cast<const uint8_t*>(text.data()), text.size());
+    return copy;
+}
+
 }  // namespace
 
 int TranslateNdd(const uint8_t* data, size_t size, const std::string& folder) {
@@ -86,6 +106,15 @@ int TranslateWithHkp(const uint8_t* data, size_t size, const std::string& folder
     if (!WriteBytes(hkp, data, size)) return 0;
     g_options.g_strHkpFile = hkp;
     return RunTranslation(boardPath, folder);
+}
+
+int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folder,
+                      const std::string& boardPath) {
+    ResetForInput();
+    std::string models = folder + "/IBISModels";
+    mkdir(models.c_str(), 0755);
+    if (!WriteBytes(models + "/SN74LVC1G14.ibs", data, size)) return 0;
+    return RunTranslation(CopyBoard(boardPath, folder), folder);
 }
 
 }  // namespace fuzz

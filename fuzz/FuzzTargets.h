@@ -39,4 +39,9 @@ int TranslateWithTraces(const uint8_t* data, size_t size, const std::string& fol
 int TranslateWithHkp(const uint8_t* data, size_t size, const std::string& folder,
                      const std::string& boardPath);
 
+// A batch translation of a copy of the example board in folder, with the bytes as the IBIS
+// file of its active part (IBISModels/SN74LVC1G14.ibs beside the copy).
+int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folder,
+                      const std::string& boardPath);
+
 }  // namespace fuzz
