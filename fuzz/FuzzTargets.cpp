@@ -54,11 +54,14 @@ void ResetForInput() {
 
 namespace {
 
-int RunTranslation(const std::string& input, const std::string& folder) {
+// ibisPart: a part that the user chose for the IBIS step, as the dialog would hand it over.
+int RunTranslation(const std::string& input, const std::string& folder,
+                   const std::string& ibisPart = std::string()) {
     std::string output = folder + "/out.qfx";
     g_options.g_strInputFile = input;
     g_options.g_strOutputFile = output;
     TranslationDriver driver;
+    if (!ibisPart.empty()) driver.m_lstUnresolvedParts.push_back(ibisPart);
     int result = driver.Translate(input, output);
     // A failed run may leave its streams open; close them before the next input.
     ResetTranslationOptions();
@@ -114,7 +117,7 @@ int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folde
     std::string models = folder + "/IBISModels";
     mkdir(models.c_str(), 0755);
     if (!WriteBytes(models + "/SN74LVC1G14.ibs", data, size)) return 0;
-    return RunTranslation(CopyBoard(boardPath, folder), folder);
+    return RunTranslation(CopyBoard(boardPath, folder), folder, "SN74LVC1G14");
 }
 
 }  // namespace fuzz

@@ -40,7 +40,8 @@ int TranslateWithHkp(const uint8_t* data, size_t size, const std::string& folder
                      const std::string& boardPath);
 
 // A batch translation of a copy of the example board in folder, with the bytes as the IBIS
-// file of its active part (IBISModels/SN74LVC1G14.ibs beside the copy).
+// file of its active part (IBISModels/SN74LVC1G14.ibs beside the copy), which takes part in
+// the IBIS step as if chosen in the dialog, so that its circuit block is written from the file.
 int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folder,
                       const std::string& boardPath);
 
