@@ -80,6 +80,19 @@ TEST(BadInputs, InfiniteAndNanNumbersArePrintedAsRead) {
                                        "Width = infmm Color = red"});
 }
 
+// A number is read up to the first character that cannot belong to it.
+TEST(BadInputs, TextAfterANumberIsIgnored) {
+    ScratchDir dir;
+    std::string qfx =
+        Translate(dir, std::string(kStack) + "%trace \"TOP\" 0.1abc 1 1 2y 2/0 \"N\";\n");
+    EXPECT_EQ(LinesStartingWith(qfx, "Trace0"),
+              std::vector<std::string>{"Trace0::N StartingNode = Node0::N EndingNode = Node1::N "
+                                       "Width = 1.000000e-01mm Color = red"});
+    EXPECT_EQ(LinesStartingWith(qfx, "Node1::N"),
+              std::vector<std::string>{"Node1::N X = 2.0000000000e+00mm Y = 2.0000000000e+00mm "
+                                       "Layer = Signal$TOP Contact = 1"});
+}
+
 // The end of the file ends a boundary as "%end_boundary" would, and a last record needs
 // neither its ';' nor a line feed.
 TEST(BadInputs, RecordsCutOffByTheEndOfTheFileAreReadAsFarAsTheyGo) {
