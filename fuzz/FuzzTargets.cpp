@@ -10,6 +10,10 @@
 #include <sstream>
 #include <vector>
 
+#if __has_include("app/LogLoader.h")
+#include "app/LogLoader.h"
+#define NDD2QFX_HAVE_LOG_LOADER 1
+#endif
 #include "app/TraceStep.h"
 #include "app/TranslationDriver.h"
 #include "app/TranslationOptions.h"
@@ -118,6 +122,23 @@ int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folde
     mkdir(models.c_str(), 0755);
     if (!WriteBytes(models + "/SN74LVC1G14.ibs", data, size)) return 0;
     return RunTranslation(CopyBoard(boardPath, folder), folder, "SN74LVC1G14");
+}
+
+int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder,
+                     const std::string& boardPath) {
+#ifdef NDD2QFX_HAVE_LOG_LOADER
+    ResetForInput();
+    std::string log = folder + "/in.log";
+    if (!WriteBytes(log, data, size)) return 0;
+    std::string input = CopyBoard(boardPath, folder);
+    std::string named = input, output = folder + "/out.qfx";
+    if (!LoadLogFile(log, named, output)) return 0;
+    return RunTranslation(input, folder);
+#else
+    // The log reader is not part of this build yet.
+    (void)data, (void)size, (void)folder, (void)boardPath;
+    return 0;
+#endif
 }
 
 }  // namespace fuzz

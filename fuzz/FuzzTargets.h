@@ -45,4 +45,10 @@ int TranslateWithHkp(const uint8_t* data, size_t size, const std::string& folder
 int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folder,
                       const std::string& boardPath);
 
+// The bytes loaded as a translation log, then a batch translation of a copy of the example
+// board in folder under the settings and nets that the log restored. The names the log gives
+// are read from but never written to: the output goes to folder.
+int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder,
+                     const std::string& boardPath);
+
 }  // namespace fuzz

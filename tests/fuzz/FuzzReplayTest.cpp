@@ -21,6 +21,10 @@ const char kBoard[] = NDD2QFX_SOURCE_DIR "/examples/board.ndd";
 
 Entry EntryOf(const std::string& harness) {
     if (harness == "translate") return fuzz::TranslateNdd;
+    if (harness == "log")
+        return [](const uint8_t* d, size_t n, const std::string& f) {
+            return fuzz::TranslateWithLog(d, n, f, kBoard);
+        };
     if (harness == "ibis")
         return [](const uint8_t* d, size_t n, const std::string& f) {
             return fuzz::TranslateWithIbis(d, n, f, kBoard);
@@ -76,7 +80,12 @@ TEST_P(FuzzReplay, SavedFindings) {
     if (n == 0) GTEST_SKIP() << "no saved findings for " << GetParam();
 }
 
+#if __has_include("app/LogLoader.h")
+INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
+                         ::testing::Values("translate", "traces", "hkp", "ibis", "log"));
+#else
 INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
                          ::testing::Values("translate", "traces", "hkp", "ibis"));
+#endif
 
 }  // namespace
