@@ -2,9 +2,11 @@
 
 #include <cstdio>
 
+#include "app/ModelReport.h"
 #include "app/Progress.h"
 #include "app/ReportMessage.h"
 #include "app/TraceStep.h"
+#include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
 #include "ndd/LayoutModel.h"
@@ -126,7 +128,6 @@ int TranslationDriver::FailPipeline() {
 int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
                                          const std::string& outputFile,
                                          const std::string& outputFolder) {
-    (void)outputFile;
     (void)outputFolder;
     if (g_options.g_nQuiet == 0) SetProgress(0);
     ShowStage("Begin ...");
@@ -139,6 +140,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         TraceStep(true, "Cannot open file : %s", inputFile.c_str());
         return 0;
     }
+    WriteLogHeader();
+    TraceStep(true, "LogHeader");
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
 
@@ -165,6 +168,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WriteFileEnd(out);
     std::fclose(out);
     g_options.g_pOutputFile = nullptr;
+    if (!WriteModelReport(outputFile)) return FailPipeline();
 
     if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
     g_options.g_pLogFile = nullptr;

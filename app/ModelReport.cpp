@@ -1,0 +1,67 @@
+#include "app/ModelReport.h"
+
+#include <cstdio>
+
+#include "app/ReportMessage.h"
+#include "app/TraceStep.h"
+#include "app/TranslationLog.h"
+#include "app/TranslationOptions.h"
+#include "base/Platform.h"
+#include "qfx/Skeleton.h"
+
+namespace {
+
+// The log belongs to the run's output name; a run started without one uses the pipeline's.
+std::string LogBaseName(const std::string& outputFile) {
+    return g_options.g_strOutputFile.empty() ? outputFile : g_options.g_strOutputFile;
+}
+
+void ReopenLog(const std::string& logPath) {
+    bool wasOpen = g_options.g_pLogFile != nullptr;
+    if (wasOpen) std::fclose(g_options.g_pLogFile);
+    g_options.g_pLogFile = nullptr;
+    base::RemoveFile(logPath);
+    g_options.g_pLogFile = std::fopen(logPath.c_str(), "w");
+    if (!g_options.g_pLogFile && wasOpen)
+        ReportMessage("Cannot open log file : " + logPath, kBoxWarning);
+}
+
+// Every section from the finished model, whatever the four element switches say.
+void WriteAllSections(FILE* out) {
+    WriteTitle(out);
+    WriteTransient(out);
+    WriteMesh(out);
+    WritePackageHead(out);
+    // shapes, layers
+    // node lines, trace lines
+    // via lines
+    WritePackageEnd(out);
+    // circuit description
+    if (g_options.g_pLogFile) WriteModelReportLines(g_options.g_pLogFile);
+    // linkage section
+    WriteFileEnd(out);
+}
+
+}  // namespace
+
+int WriteModelReport(const std::string& outputFile) {
+    // node index rebuild
+    if (g_options.g_pOutputFile) std::fclose(g_options.g_pOutputFile);
+    g_options.g_pOutputFile = std::fopen(outputFile.c_str(), "w");
+    std::string base = LogBaseName(outputFile);
+    if (!g_options.g_pOutputFile) {
+        ReportMessage("Cannot open file : " + outputFile, kBoxWarning);
+        TraceStep(true, "Cannot open file : %s", outputFile.c_str());
+        return 0;
+    }
+    ReopenLog(base + ".log");
+    WriteLogHeader();
+    WriteAllSections(g_options.g_pOutputFile);
+    std::fclose(g_options.g_pOutputFile);
+    g_options.g_pOutputFile = nullptr;
+    if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
+    g_options.g_pTempLogFile = nullptr;
+    base::RemoveFile(base + "temp.log");
+    if (outputFile != base) base::RemoveFile(outputFile + "temp.log");
+    return 1;
+}
