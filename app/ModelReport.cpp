@@ -20,7 +20,7 @@ void ReopenLog(const std::string& logPath) {
     bool wasOpen = g_options.g_pLogFile != nullptr;
     if (wasOpen) std::fclose(g_options.g_pLogFile);
     g_options.g_pLogFile = nullptr;
-    base::RemoveFile(logPath);
+    if (!base::IsFolder(logPath)) base::RemoveFile(logPath);
     g_options.g_pLogFile = std::fopen(logPath.c_str(), "w");
     if (!g_options.g_pLogFile && wasOpen)
         ReportMessage("Cannot open log file : " + logPath, kBoxWarning);
