@@ -9,12 +9,16 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/Units.h"
+#include "qfx/LayerWriter.h"
+#include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
+#include "qfx/ViaWriter.h"
 
 namespace {
 
@@ -116,6 +120,8 @@ int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     SetNetSelectionMode();
     g_model.g_aLayers.reset();
     g_model.g_nLayerCount = 0;
+    TraceStep(true, "ParseLayer");
+    if (!ParseLayer(inputFile)) return 0;
     return 1;
 }
 
@@ -162,6 +168,18 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     ShowStage("Writing PKG header ...");
     TraceStep(true, "MakePackage");
     WritePackageHead(out);
+
+    TraceStep(true, "Writing Shape Info...");
+    if (g_options.g_bTranslateShapes) {
+        ShowStage("Writing Shape Info...");
+        WriteShapes(out);
+    }
+    if (g_options.g_bTranslateLayers) {
+        ShowStage("Writing Layer Info...");
+        WriteLayers(out);
+    }
+
+    if (g_options.g_bTranslateVias) WriteVias(out);
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);

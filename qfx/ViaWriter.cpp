@@ -1,0 +1,43 @@
+#include "qfx/ViaWriter.h"
+
+#include <string>
+
+#include "app/TranslationOptions.h"
+#include "ndd/LayoutModel.h"
+#include "qfx/Naming.h"
+
+namespace {
+
+// The pin label of a node id, through the id-to-index map.
+std::string NodeLabel(uint32_t id) {
+    const auto& index = g_model.g_aNodeIndex;
+    if (id >= index.size() || index[id] >= g_model.g_aNodes.size()) return std::string();
+    return g_model.g_aNodes[index[id]].label;
+}
+
+const char* ViaColor(int32_t net) {
+    if (net == kNoNet || net == kNoNetAlt) return "red";
+    if (net < 0 || net >= static_cast<int32_t>(g_model.g_nNetColor.size())) return "red";
+    const char* name = NetColorName(g_model.g_nNetColor[static_cast<size_t>(net)]);
+    return name ? name : "red";
+}
+
+}  // namespace
+
+void WriteVias(FILE* out) {
+    const char* affix = Affix().c_str();
+    for (const ViaOutRec& v : g_model.g_aViaOut) {
+        if (!g_options.g_nIncludeNoNetEtches && v.net == kNoNet) continue;
+        std::fprintf(out, "Via%s%d%s UpperNode = Node%s%d%s%s LowerNode = Node%s%d%s%s Color = %s",
+                     affix, static_cast<int>(v.number), NetSuffix(v.net).c_str(), affix,
+                     static_cast<int>(v.upperNode), PinLabelSuffix(NodeLabel(v.upperNode)).c_str(),
+                     NetSuffix(v.upperNet).c_str(), affix, static_cast<int>(v.lowerNode),
+                     PinLabelSuffix(NodeLabel(v.lowerNode)).c_str(), NetSuffix(v.lowerNet).c_str(),
+                     ViaColor(v.net));
+        if (v.padStack)
+            std::fprintf(out, " PadStack = %s%s AbsoluteRotation = %.6f\n", affix,
+                         v.padStack->name.c_str(), v.rotation);
+        else
+            std::fprintf(out, "\n");
+    }
+}

@@ -1,0 +1,5 @@
+#pragma once
+#include <cstdio>
+
+// One via line per stretch of the via output table.
+void WriteVias(FILE* out);
