@@ -7,7 +7,10 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "qfx/LayerWriter.h"
+#include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
+#include "qfx/ViaWriter.h"
 
 namespace {
 
@@ -32,9 +35,10 @@ void WriteAllSections(FILE* out) {
     WriteTransient(out);
     WriteMesh(out);
     WritePackageHead(out);
-    // shapes, layers
+    WriteShapes(out);
+    WriteLayers(out);
     // node lines, trace lines
-    // via lines
+    WriteVias(out);
     WritePackageEnd(out);
     // circuit description
     if (g_options.g_pLogFile) WriteModelReportLines(g_options.g_pLogFile);
