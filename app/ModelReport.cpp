@@ -69,3 +69,7 @@ int WriteModelReport(const std::string& outputFile) {
     if (outputFile != base) base::RemoveFile(outputFile + "temp.log");
     return 1;
 }
+
+int WriteModelReport() {
+    return WriteModelReport(g_options.g_strOutputFile);
+}

@@ -91,6 +91,24 @@ TEST(ModelReport, SecondWritingReplacesTheFirstAndIgnoresTheElementSwitches) {
     EXPECT_EQ(g_options.g_pOutputFile, nullptr);
 }
 
+// An output without the QFX extension keeps the first writing under its own name while the
+// second writing goes to the name with ".QFX" added, so the two can be compared: every writer
+// must print the same text when it runs the second time.
+TEST(ModelReport, SecondWritingEqualsTheFirstForABoardWithoutComponents) {
+    ScratchDir dir;
+    std::string input = dir.Write("board.ndd", kBoard);
+    std::string output = dir.File("out.txt");
+    StartBatchRun();
+    ASSERT_EQ(Translate(input, output), 1);
+    std::string first = ReadFile(output);
+    std::string second = ReadFile(output + ".QFX");
+    EXPECT_NE(first.find("Signal$TOP "), std::string::npos) << first;
+    EXPECT_EQ(second, first);
+    // The log follows the run's own output name.
+    EXPECT_TRUE(base::PathExists(output + ".log"));
+    EXPECT_FALSE(base::PathExists(output + ".QFX.log"));
+}
+
 TEST(ModelReport, OutputThatCannotBeOpenedFailsWithNothingWritten) {
     ScratchDir dir;
     std::string input = dir.Write("board.ndd", kBoard);
