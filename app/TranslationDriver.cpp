@@ -9,15 +9,20 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/MakeNode.h"
+#include "geometry/NodeSet.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/TraceReader.h"
 #include "ndd/Units.h"
 #include "qfx/LayerWriter.h"
+#include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
+#include "qfx/TraceWriter.h"
 #include "qfx/ViaWriter.h"
 
 namespace {
@@ -150,12 +155,18 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "LogHeader");
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
+    RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
     g_model.g_dbTinyTraceLimitSquared = unionLength * unionLength;
 
     ShowStage("Processing Trace Info...");
     ShowStage("Processing Shape Info...");
+    RebuildNodeArray();
+    TraceStep(true, "ParseTrace, ParseArcTrace");
+    ParseTrace(inputFile, 0);
+    ParseArcTrace(inputFile, 0);
+    RebuildNodeArray();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
@@ -169,6 +180,12 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "MakePackage");
     WritePackageHead(out);
 
+    RebuildNodeArray();
+
+    // The last copy of the node set: from here on the passes work on the array.
+    RebuildNodeArray();
+    RebuildNodeIndex();
+
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {
         ShowStage("Writing Shape Info...");
@@ -179,6 +196,16 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         WriteLayers(out);
     }
 
+    ShowStage("Writing Node Info...");
+    TraceStep(true, "MakeNode");
+    MakeNode();
+    FlipMirroredBottomNodes();
+    WriteNodes(out);
+    TraceStep(true, "MakeTrace");
+    if (g_options.g_bTranslateTraces) {
+        ShowStage("Writing Trace Info...");
+        WriteTraces(out);
+    }
     if (g_options.g_bTranslateVias) WriteVias(out);
 
     ShowStage("Writing PKG End...");
@@ -207,4 +234,8 @@ void FreeModelArrays() {
     g_model.g_aShapePoints.clear();
     g_model.g_aShapeBoxes.clear();
     g_model.g_aViaOut.clear();
+    g_model.g_setNodes.clear();
+    g_model.g_aNodes.clear();
+    g_model.g_aNodeIndex.clear();
+    g_model.g_nNodeCount = 0;
 }

@@ -1,0 +1,80 @@
+#include "qfx/NodeWriter.h"
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "app/TranslationOptions.h"
+#include "geometry/NodeSet.h"
+#include "ndd/LayerLookup.h"
+#include "ndd/LayoutModel.h"
+#include "qfx/Naming.h"
+
+namespace {
+
+constexpr double kOutputScale = 1.0;
+
+// A via padstack with no drill of its own takes the radius that its via's drill index
+// selects, so that the library prints a hole for it.
+void FixUpPadStackDrills() {
+    std::unordered_map<uint16_t, double> radiusOfIndex;
+    for (const DrillRadius& drill : g_model.g_aDrillRadii)
+        radiusOfIndex[drill.index] = drill.radius;
+    for (const ViaOutRec& via : g_model.g_aViaOut) {
+        if (!via.padStack || via.padStack->drill > 0) continue;
+        auto found = radiusOfIndex.find(via.drillIndex);
+        if (found != radiusOfIndex.end()) via.padStack->drill = found->second;
+    }
+}
+
+const char* LayerWord(const LayerRec* layer) {
+    if (layer && layer->kind == kLayerSignal) return "Signal";
+    if (layer && layer->kind == kLayerPlane) return "Plane";
+    return "Medium";
+}
+
+const LayerRec* LayerAt(int32_t index) {
+    if (!g_model.g_aLayers || index < 0 || index >= g_model.g_nLayerCount) return nullptr;
+    return &g_model.g_aLayers[index];
+}
+
+bool PrintsWithoutNet(int32_t net) {
+    return (net != kNoNet && net != kNoNetAlt) || g_options.g_nIncludeNoNetEtches != 0;
+}
+
+void WriteNodeLine(FILE* out, const NodeRec& node, const std::string& name, int32_t bottom) {
+    const LayerRec* layer = LayerAt(node.layer);
+    const std::string& affix = Affix();
+    std::fprintf(out, "%s X = %.10emm Y = %.10emm Layer = %s$%s%s Contact = %d", name.c_str(),
+                 node.x * kOutputScale, node.y * kOutputScale, LayerWord(layer), affix.c_str(),
+                 layer ? LayerName(*layer).c_str() : "", node.contact);
+    if (!node.padStack) {
+        std::fprintf(out, "\n");
+        return;
+    }
+    std::string padStack = node.padStack->name;
+    if (node.layer == bottom && node.mirrored != 0) padStack += "_Mirrd";
+    std::fprintf(out, " PadStack = %s%s AbsoluteRotation = %.6f\n", affix.c_str(), padStack.c_str(),
+                 node.rotation);
+}
+
+}  // namespace
+
+void WriteNodes(FILE* out) {
+    FixUpPadStackDrills();
+    RebuildNodeIndex();
+    const std::vector<NodeRec>& nodes = g_model.g_aNodes;
+    const size_t count = std::min(nodes.size(), g_model.g_setNodes.size());
+    std::unordered_set<std::string> printed;
+    printed.reserve(count);
+    const int32_t bottom = LastConductorLayer();
+    for (size_t i = 0; i < count; ++i) {
+        const NodeRec& node = nodes[i];
+        if (node.viaRefs == 0 && node.traceRefs == 0) continue;
+        if (!PrintsWithoutNet(node.net)) continue;
+        std::string name = "Node" + Affix() + std::to_string(static_cast<int32_t>(node.id)) +
+                           PinLabelSuffix(node.label) + NetSuffix(node.net);
+        if (!printed.insert(name).second) continue;
+        WriteNodeLine(out, node, name, bottom);
+    }
+}

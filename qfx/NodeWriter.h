@@ -1,0 +1,8 @@
+#pragma once
+// The node lines of the package: one line per node that something holds, in the order of the
+// node set (layer, then x, then y).
+#include <cstdio>
+
+// Also settles the drill of every via padstack that has none, from the via output table, so
+// that the padstack library prints it, and rebuilds the node index.
+void WriteNodes(FILE* out);
