@@ -7,9 +7,12 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/NodeSet.h"
 #include "qfx/LayerWriter.h"
+#include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
+#include "qfx/TraceWriter.h"
 #include "qfx/ViaWriter.h"
 
 namespace {
@@ -37,7 +40,8 @@ void WriteAllSections(FILE* out) {
     WritePackageHead(out);
     WriteShapes(out);
     WriteLayers(out);
-    // node lines, trace lines
+    WriteNodes(out);
+    WriteTraces(out);
     WriteVias(out);
     WritePackageEnd(out);
     // circuit description
@@ -49,7 +53,7 @@ void WriteAllSections(FILE* out) {
 }  // namespace
 
 int WriteModelReport(const std::string& outputFile) {
-    // node index rebuild
+    RebuildNodeIndex();
     if (g_options.g_pOutputFile) std::fclose(g_options.g_pOutputFile);
     g_options.g_pOutputFile = std::fopen(outputFile.c_str(), "w");
     std::string base = LogBaseName(outputFile);

@@ -12,14 +12,11 @@ int g_bLogHasWarnings = 0;
 
 namespace {
 
-// The user's colour of a net when a selection gave every net one, else the net's own.
+// The colour that the output gives the net.
 int32_t NetColorIndex(int32_t net) {
-    const auto& chosen = g_options.g_pNetColors;
-    if (net < 0) return 0;
-    size_t i = static_cast<size_t>(net);
-    if (chosen.size() == static_cast<size_t>(g_model.g_nNetCount) && i < chosen.size())
-        return chosen[i];
-    return i < g_model.g_nNetColor.size() ? g_model.g_nNetColor[i] : 0;
+    const auto& colors = g_model.g_nNetColor;
+    return net >= 0 && static_cast<size_t>(net) < colors.size() ? colors[static_cast<size_t>(net)]
+                                                                : 0;
 }
 
 void WriteNetLine(FILE* log, int32_t net) {

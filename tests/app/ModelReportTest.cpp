@@ -20,7 +20,10 @@ const char kBoard[] =
     "%port \"U1-1\" \"CLK\";\n"
     "%port \"U1-2\" \"GND\";\n"
     "%port \"U1-3\" \"VCC\";\n"
-    "%port \"U1-4\" \"DATA\";\n";
+    "%port \"U1-4\" \"DATA\";\n"
+    "%trace \"TOP\" 23500 1524000 1016000 1571184 1063184 \"CLK\";\n"
+    "%trace \"TOP\" 23500 1571184 1063184 1600000 1063184 \"CLK\";\n"
+    "%trace \"TOP\" 10000 0 0 100000 0 \"DATA\";\n";
 
 void StartBatchRun() {
     ResetGlobals();
@@ -103,6 +106,8 @@ TEST(ModelReport, SecondWritingEqualsTheFirstForABoardWithoutComponents) {
     std::string first = ReadFile(output);
     std::string second = ReadFile(output + ".QFX");
     EXPECT_NE(first.find("Signal$TOP "), std::string::npos) << first;
+    EXPECT_NE(first.find("\nNode"), std::string::npos) << first;
+    EXPECT_NE(first.find("\nTrace"), std::string::npos) << first;
     EXPECT_EQ(second, first);
     // The log follows the run's own output name.
     EXPECT_TRUE(base::PathExists(output + ".log"));
@@ -181,8 +186,7 @@ TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
     o.g_dbSpatialMaxX = 100.0;
     o.g_dbSpatialMaxY = 200.0;
     o.g_nSelectedNetCount = 2;
-    o.g_pSelectedNets = {2, 0};      // GND, CLK
-    o.g_pNetColors = {6, 2, 10, 4};  // CLK darkblue, GND darkmagenta
+    o.g_pSelectedNets = {2, 0};  // GND, CLK
     ASSERT_EQ(Translate(input, output), 1);
     std::string firstQfx = ReadFile(output);
     std::vector<std::string> firstLog = LogWithoutDate(output + ".log");
@@ -196,7 +200,8 @@ TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
     EXPECT_EQ(LogWithoutDate(output + ".log"), firstLog);
     // The settings did reach the log of both runs.
     std::string log = ReadFile(output + ".log");
-    EXPECT_NE(log.find("\tGND\tdarkmagenta\n\tCLK\tdarkblue\n"), std::string::npos) << log;
+    // Net colours follow the net table: CLK 0 red, DATA 1 green, GND 2 blue.
+    EXPECT_NE(log.find("\tGND\tblue\n\tCLK\tred\n"), std::string::npos) << log;
     EXPECT_NE(log.find("\tName affix : AB\n"), std::string::npos);
     EXPECT_NE(log.find("\tExclude void shapes enclosing vias with area less than 3.000000 mm x "
                        "mm\n"),
@@ -219,7 +224,8 @@ TEST(ModelReport, LogOnTheCommandLineRestoresPathsAndSettings) {
                        "\nTo file : " + dir.File("result.qfx") + "\n"),
               std::string::npos)
         << log;
-    EXPECT_NE(log.find("\nNets Translated : \n\tDATA\tred\n\nSettings :\n"), std::string::npos);
+    // The log chose DATA; its colour follows the net table (CLK 0, DATA 1: green).
+    EXPECT_NE(log.find("\nNets Translated : \n\tDATA\tgreen\n\nSettings :\n"), std::string::npos);
     EXPECT_NE(log.find("\tUnion traces shorter than 0.500000 mm\n"), std::string::npos);
     EXPECT_NE(log.find("\tName affix : Z9\n"), std::string::npos);
     EXPECT_TRUE(base::PathExists(dir.File("result.qfx")));

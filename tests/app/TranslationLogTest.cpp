@@ -46,7 +46,7 @@ TEST(TranslationLog, HeaderOfARunWithNonDefaultSettings) {
     o.g_bSelectedOnly = 1;
     o.g_nSelectedNetCount = 2;
     o.g_pSelectedNets = {2, 0};
-    o.g_pNetColors = {9, 4, 0};  // CLK darkred, GND without a colour
+    g_model.g_nNetColor = {9, 4, 0};  // CLK darkred, GND without a colour
     o.g_bAllowSignalOnPlane = 0;
     o.g_bAddPseudoPlane = 0;
     o.g_nIncludeNoNetEtches = 1;
