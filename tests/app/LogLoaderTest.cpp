@@ -125,6 +125,29 @@ TEST(LogLoader, ViaVoidLineAloneSetsTenSquareMillimetres) {
     EXPECT_EQ(g_options.g_dbViaVoidArea, 2.5);
 }
 
+TEST(LogLoader, NumbersAreReadAtFixedCharacterPositions) {
+    StartBatchRun();
+    ScratchDir dir;
+    // Position 27 of the union line is the second character behind its words, and so on.
+    ASSERT_TRUE(Load(dir, std::string(kHead) +
+                              "\nSettings :\n"
+                              "\tUnion traces shorter than1.5 mm\n"
+                              "\tExclude void shapes with area less than:2 mm x mm\n"
+                              "\tMaximum arc length replaced by line segment:0.75 mm\n"
+                              "\tExclude void shapes enclosing vias, older form\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.5);
+    EXPECT_EQ(g_options.g_dbVoidAreaLimit, 2.0);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.75);
+    // A longer via line that is not the newer wording keeps the 10.0 of the short one.
+    EXPECT_EQ(g_options.g_dbViaVoidArea, 10.0);
+    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
+
+    // A line that stops at its words reads as 0.
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tUnion traces shorter than\n").ok);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.0);
+}
+
 TEST(LogLoader, NameAffixKeepsFourCharacters) {
     StartBatchRun();
     ScratchDir dir;
