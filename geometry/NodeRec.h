@@ -12,9 +12,11 @@ struct PadStackRec;
 constexpr double kNodeTolerance = 6e-5;
 
 struct NodeRec {
-    // The key: layer, x, y. The other fields may change while the record is in the set.
+    // The key: layer, x, y. The other fields may change while the record is in the set. x
+    // and y may too, but only within the tolerance of where they were (a via moves its nodes
+    // onto its upper end's position): a larger move would break the set's order.
     int32_t layer = 0;
-    double x = 0.0, y = 0.0;
+    mutable double x = 0.0, y = 0.0;
     mutable uint32_t id = 0;
     mutable int32_t net = 65535;
     mutable uint16_t contact = 0;

@@ -77,7 +77,6 @@ std::string TraceLayerName(const std::string& token) {
 }
 
 bool TakeTraceNet(std::string token, int32_t& net) {
-    if (token.size() > 1 && token.back() == ';') token.pop_back();
     NddStripQuotes(token);
     net = NetIndexByName(token);
     if (token.empty()) return g_options.g_nIncludeNoNetEtches != 0;

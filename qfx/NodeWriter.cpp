@@ -1,5 +1,6 @@
 #include "qfx/NodeWriter.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -38,7 +39,7 @@ const LayerRec* LayerAt(int32_t index) {
     return &g_model.g_aLayers[index];
 }
 
-bool PrintsWithoutNet(int32_t net) {
+bool PrintsForNet(int32_t net) {
     return (net != kNoNet && net != kNoNetAlt) || g_options.g_nIncludeNoNetEtches != 0;
 }
 
@@ -71,7 +72,7 @@ void WriteNodes(FILE* out) {
     for (size_t i = 0; i < count; ++i) {
         const NodeRec& node = nodes[i];
         if (node.viaRefs == 0 && node.traceRefs == 0) continue;
-        if (!PrintsWithoutNet(node.net)) continue;
+        if (!PrintsForNet(node.net)) continue;
         std::string name = "Node" + Affix() + std::to_string(static_cast<int32_t>(node.id)) +
                            PinLabelSuffix(node.label) + NetSuffix(node.net);
         if (!printed.insert(name).second) continue;

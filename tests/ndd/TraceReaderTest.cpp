@@ -4,6 +4,7 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
+#include "app/Progress.h"
 #include "app/TranslationOptions.h"
 #include "geometry/NodeSet.h"
 #include "ndd/LayoutModel.h"
@@ -194,6 +195,23 @@ TEST(ParseArcTrace, ArcBecomesTwoHalvesMeetingAtItsMiddlePoint) {
     ExpectTrace(1, {0.2, 2, 2, 1, 2, 1});  // (2,0) to (1,1)
     EXPECT_EQ(FindNode(2, 1.0, 1.0)->traceRefs, 2);
     EXPECT_EQ(FindNode(2, 2.0, 0.0)->id, 2u);
+}
+
+TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {
+    MakeBoard();
+    std::vector<int> positions;
+    SetProgressHandler([&](int position) { positions.push_back(position); });
+    std::string text = "%port \"X\" \"CLK\";\n";
+    for (int i = 0; i < 302; ++i) text += "%trace \"TOP\" 1 0 0 1 1 \"CLK\";\n";
+    ScratchDir dir;
+    std::string path = dir.Write("a.ndd", text);
+    ASSERT_EQ(ParseTrace(path, 0), 1);
+    EXPECT_EQ(positions, (std::vector<int>{10, 15, 20}));
+    positions.clear();
+    g_options.g_nQuiet = 1;  // a batch run has no progress bar
+    ASSERT_EQ(ParseTrace(path, 0), 1);
+    EXPECT_TRUE(positions.empty());
+    SetProgressHandler(nullptr);
 }
 
 TEST(ParseTrace, MissingInputFailsThePass) {
