@@ -231,6 +231,16 @@ TEST(ModelReport, LogOnTheCommandLineRestoresPathsAndSettings) {
     EXPECT_TRUE(base::PathExists(dir.File("result.qfx")));
 }
 
+TEST(ModelReport, BatchRunWithAFileThatIsNoLogTranslatesNothing) {
+    ScratchDir dir;
+    dir.Write("notes.log", "shopping list\n");
+    std::string err;
+    EXPECT_EQ(RunProgram(dir.Path(), {"-NoUI", "notes.log"}, &err), 0);
+    EXPECT_EQ(ReadFile(dir.File("error.log")), "The file :\n" + dir.File("notes.log") +
+                                                   "\nis not Ndd2Qfx translation log file\n"
+                                                   "Please specify a NDD file\n");
+}
+
 TEST(ModelReport, LogBeforeTheFileNamesKeepsThoseNames) {
     ScratchDir dir;
     dir.Write("board.ndd", kBoard);
