@@ -8,7 +8,9 @@ build build
 example="$PWD/examples/board.ndd"
 output="${example%.ndd}.qfx"
 start=$(date +%s%N)
-KEEP_BENCHMARK=${KEEP_BENCHMARK:-0} ./build/ndd2qfx -NoUI "$example" || true
+# The side files add thermal ties and conductive areas; 20 asks for gaps of 20 % around traces.
+KEEP_BENCHMARK=${KEEP_BENCHMARK:-0} ./build/ndd2qfx -NoUI -traces "$PWD/examples/traces" \
+    -hkp "$PWD/examples/layout.hkp" "$example" "$output" 20 || true
 end=$(date +%s%N)
 echo "Output:    $output"
 echo "Log:       $output.log"

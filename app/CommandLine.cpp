@@ -26,6 +26,12 @@ void ReportGapValue() {
         ReportMessage(text, kBoxOk);
 }
 
+// A side file named on the command line is made absolute at once: the start routine moves
+// the working folder to the output's folder before the file is read.
+std::string SideFilePath(const std::string& value) {
+    return base::AbsolutePath(base::NativeSeparators(Trim(value, " ")));
+}
+
 }  // namespace
 
 int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
@@ -46,6 +52,10 @@ int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
             }
             (drill ? drillSeen : gapSeen) = true;
             ++i;
+        } else if (IsOption(a, "traces") || IsOption(a, "hkp")) {
+            std::string& field =
+                IsOption(a, "traces") ? g_options.g_strTraceFile : g_options.g_strHkpFile;
+            if (i + 1 < args.size()) field = SideFilePath(args[++i]);
         } else if (IsOption(a, "NoUI")) {
             g_options.g_nBatchMode = -1;
         } else if (IsOption(a, "b")) {

@@ -9,15 +9,26 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
+#include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
+#include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
 #include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
+#include "ndd/PadBoundaries.h"
+#include "ndd/PadLibrary.h"
+#include "ndd/PadStackLayers.h"
+#include "ndd/ParseElement.h"
+#include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
+#include "ndd/SurfacePads.h"
 #include "ndd/Units.h"
+#include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"
@@ -101,6 +112,10 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
         size_t sep = base::LastSeparator(outputFile);
         std::string outputFolder =
             sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
+        TraceStep(true, "ParsePadDefData");
+        ParsePadDefData(inputFile);
+        ResolvePadStackLayers();
+        ExpandDefaultLayers();
         TraceStep(true, "Transfer");
         result = TranslateNddToQfx(inputFile, outputFile, outputFolder);
     }
@@ -155,6 +170,10 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "LogHeader");
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
+    TraceStep(true, "ParsePadDef");
+    ParsePadDef(inputFile);
+    TraceStep(true, "ParseVia");
+    if (!ParseVia(inputFile)) return FailPipeline();
     RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
@@ -162,11 +181,20 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     ShowStage("Processing Trace Info...");
     ShowStage("Processing Shape Info...");
+    TraceStep(true, "ParseElement");
+    if (!ParseElement(inputFile)) return FailPipeline();
+    ParseHkpFile();
+
+    if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
+        AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
     RebuildNodeArray();
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
     RebuildNodeArray();
+
+    RunShapeCleanupRound();
+    SpreadSurfacePads();
 
     FILE* out = g_options.g_pOutputFile;
     ShowStage("Writing Title ...");
@@ -181,10 +209,22 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WritePackageHead(out);
 
     RebuildNodeArray();
+    ParseThermalTies();
 
     // The last copy of the node set: from here on the passes work on the array.
     RebuildNodeArray();
     RebuildNodeIndex();
+
+    TraceStep(true, "KickOutTrivialTrace");
+    KickOutTrivialTrace();
+    if (g_model.g_dbTinyTraceLimitSquared > 0) {
+        ShowStage("Clear tiny traces ...");
+        ClearTinyTraces();
+    }
+    // The gaps are new shapes: they are cleaned like the others, and the voids are checked
+    // again right after.
+    GenerateTraceGaps();
+    RunShapeCleanupRound();
 
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {

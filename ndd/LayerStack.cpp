@@ -118,7 +118,8 @@ int ReadLayers(base::LineStream& stream) {
         if (kind == LayerLine::None) continue;
         begun = true;
         auto tokens = NddTokenList(line, 6);
-        std::string name = StripQuotes(tokens[1]);
+        // The table keeps 32 characters of a name; the maps and the look-ups use the same.
+        std::string name = StripQuotes(tokens[1]).substr(0, kLayerNameBytes);
         // Conductor names are unique; dielectric names may repeat.
         if (LayerIndexByName(name) != -1) continue;
         if (g_model.g_nLayerCount >= kMaxLayers) return ReportTooManyLayers();

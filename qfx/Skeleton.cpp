@@ -2,6 +2,7 @@
 
 #include "Version.h"
 #include "qfx/Naming.h"
+#include "qfx/PadStackSection.h"
 
 void WriteTitle(FILE* out) {
     std::fprintf(out,
@@ -24,6 +25,8 @@ void WritePackageHead(FILE* out) {
 }
 
 void WritePackageEnd(FILE* out) {
+    WritePadStackLibrary(out);
+    WriteMirroredPadStacks(out);
     std::fprintf(out, "\n\n");
     std::fprintf(out, ".EndPackage\n");
 }

@@ -149,11 +149,23 @@ TEST_F(LayerStackTest, AnOutlineBeforeTheFirstLayerDoesNotEndThePass) {
     EXPECT_EQ(LayerName(Layer(1)), "BOT");
 }
 
+TEST_F(LayerStackTest, PowerUnitAndPortLinesAreNoPlanes) {
+    ASSERT_EQ(
+        Parse("%power uW;\n%powerport \"U1\" \"VCC\";\n%power \"P_uW\" \"1\" \"x\" 1 \"CU\";\n"
+              "%powerplane \"PP\" \"2\" \"x\" 1 \"CU\";\n"),
+        1);
+    // Any line that begins with "%power" and holds none of the three words is a plane.
+    ASSERT_EQ(g_model.g_nLayerCount, 1);
+    EXPECT_EQ(LayerName(Layer(0)), "PP");
+}
+
 TEST_F(LayerStackTest, LongNamesKeepTheirFirst32Characters) {
     std::string longName(40, 'L');
-    ASSERT_EQ(Parse("%signal \"" + longName + "\" \"1\" \"x\" 1 \"CU\";\n"), 1);
+    std::string line = "%signal \"" + longName + "\" \"1\" \"x\" 1 \"CU\";\n";
+    ASSERT_EQ(Parse(line + line), 1);
     ASSERT_EQ(g_model.g_nLayerCount, 1);
     EXPECT_EQ(LayerName(Layer(0)), std::string(32, 'L'));
+    EXPECT_EQ(Kind(std::string(32, 'L')), "S");
 }
 
 TEST_F(LayerStackTest, A257thLayerStopsWithAMessageAndNoOverrun) {
