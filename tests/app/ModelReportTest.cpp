@@ -164,6 +164,20 @@ TEST(ModelReport, BatchRunIntoAFileInsteadOfAFolderReportsTheOutput) {
     EXPECT_FALSE(base::PathExists(dir.File("blocker/out.qfx")));
 }
 
+// Runs the program on the log of a finished translation and expects the same output and,
+// but for the date, the same log.
+void ExpectLogRerunGivesTheSameFiles(const ScratchDir& dir, const std::string& output) {
+    std::string firstQfx = ReadFile(output);
+    std::vector<std::string> firstLog = LogWithoutDate(output + ".log");
+    dir.Write("saved.log", ReadFile(output + ".log"));
+    ResetGlobals();
+    std::string err;
+    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", dir.File("saved.log")}, &err), 0) << err;
+    EXPECT_EQ(ReadFile(dir.File("error.log")), "");
+    EXPECT_EQ(ReadFile(output), firstQfx);
+    EXPECT_EQ(LogWithoutDate(output + ".log"), firstLog);
+}
+
 TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
     ScratchDir dir;
     std::string input = dir.Write("board.ndd", kBoard);
@@ -188,16 +202,7 @@ TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
     o.g_nSelectedNetCount = 2;
     o.g_pSelectedNets = {2, 0};  // GND, CLK
     ASSERT_EQ(Translate(input, output), 1);
-    std::string firstQfx = ReadFile(output);
-    std::vector<std::string> firstLog = LogWithoutDate(output + ".log");
-    dir.Write("saved.log", ReadFile(output + ".log"));
-    ResetGlobals();
-
-    std::string err;
-    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", dir.File("saved.log")}, &err), 0) << err;
-    EXPECT_EQ(ReadFile(dir.File("error.log")), "");
-    EXPECT_EQ(ReadFile(output), firstQfx);
-    EXPECT_EQ(LogWithoutDate(output + ".log"), firstLog);
+    ExpectLogRerunGivesTheSameFiles(dir, output);
     // The settings did reach the log of both runs.
     std::string log = ReadFile(output + ".log");
     // Net colours follow the net table: CLK 0 red, DATA 1 green, GND 2 blue.
@@ -206,6 +211,22 @@ TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
     EXPECT_NE(log.find("\tExclude void shapes enclosing vias with area less than 3.000000 mm x "
                        "mm\n"),
               std::string::npos);
+}
+
+TEST(ModelReport, ExampleBoardRerunFromItsLogIsIdentical) {
+    ScratchDir dir;
+    std::string input =
+        dir.Write("board.ndd", ReadFile(std::string(NDD2QFX_SOURCE_DIR) + "/examples/board.ndd"));
+    std::string output = dir.File("board.qfx");
+    StartBatchRun();
+    g_options.g_strNameAffix = "EX";
+    g_options.g_strTraceGapPercent = "20";
+    g_options.g_dbMaxArcLength = 0.05;
+    g_options.g_dbTraceUnionLength = 0.01;
+    g_options.g_nIncludeNoNetEtches = 1;
+    ASSERT_EQ(Translate(input, output), 1);
+    ASSERT_NE(ReadFile(output).find("Signal$EX"), std::string::npos);
+    ExpectLogRerunGivesTheSameFiles(dir, output);
 }
 
 TEST(ModelReport, LogOnTheCommandLineRestoresPathsAndSettings) {
