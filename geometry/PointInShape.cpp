@@ -37,8 +37,7 @@ int CircleHolds(const ShapePoint* pts, int32_t count, double x, double y) {
 }
 
 // The ray goes toward smaller x; a point on the outline answers 1. Exact comparisons.
-int PolygonHolds(const std::vector<ShapePoint>& p, double x, double y) {
-    const size_t n = p.size();
+int PolygonHolds(const ShapePoint* p, size_t n, double x, double y) {
     int inside = 0;
     for (size_t k = 0; k < n; ++k) {
         const ShapePoint& cur = p[k];
@@ -78,9 +77,13 @@ int PointInShape(int32_t i, double x, double y, bool useBox) {
     const ShapePoint* pts = &g_model.g_aShapePoints[static_cast<size_t>(s.firstPoint)];
     if (s.geometry == kGeometryCircle) return CircleHolds(pts, s.pointCount, x, y);
     if (s.pointCount < 3) return 0;
+    // Only points level with the query can shrink the outline; without any, it stands as is.
+    bool level = false;
+    for (int32_t k = 0; k < s.pointCount && !level; ++k) level = pts[k].y == y;
+    if (!level) return PolygonHolds(pts, static_cast<size_t>(s.pointCount), x, y);
     std::vector<ShapePoint> copy = LevelRunsShrunk(pts, s.pointCount, y);
     if (copy.size() < 3) return 0;
-    return PolygonHolds(copy, x, y);
+    return PolygonHolds(copy.data(), copy.size(), x, y);
 }
 
 int PointInPolygonStrict(double x, double y, int32_t i, const ShapePoint* p, int32_t count) {

@@ -25,7 +25,7 @@ TEST(ReportMessage, BatchRunTrimsTheEndAndAppendsOneNewline) {
 }
 
 class TraceStepTest : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         ResetGlobals();
         setenv("TMP", dir.Path().c_str(), 1);

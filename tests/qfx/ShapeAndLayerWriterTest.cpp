@@ -12,14 +12,14 @@ namespace {
 
 using testing_support::CaptureOutput;
 
-// A stack from a spec such as "S:TOP D:D1 P:GND": kind letter, colon, name.
+// A stack given as "S:TOP", "D:D1", "P:GND": kind letter, colon, name.
 void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035) {
     g_model.g_aLayers = std::make_unique<LayerRec[]>(kMaxLayers);
     g_model.g_nLayerCount = 0;
-    for (const auto& spec : layers) {
+    for (const auto& entry : layers) {
         LayerRec& l = g_model.g_aLayers[g_model.g_nLayerCount];
-        l.kind = spec[0] == 'S' ? kLayerSignal : spec[0] == 'P' ? kLayerPlane : kLayerDielectric;
-        SetLayerName(l, spec.substr(2));
+        l.kind = entry[0] == 'S' ? kLayerSignal : entry[0] == 'P' ? kLayerPlane : kLayerDielectric;
+        SetLayerName(l, entry.substr(2));
         l.thickness = thickness;
         l.conductivity = 58;
         l.permittivity = 4.3;

@@ -1,0 +1,226 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "TestSupport.h"
+#include "geometry/CleanPolygon.h"
+#include "geometry/SeparateTouchingEdges.h"
+#include "geometry/ShapeCleanupRound.h"
+#include "geometry/ShapeFixtures.h"
+#include "geometry/SortShapes.h"
+#include "ndd/FinishShapes.h"
+
+using namespace shape_fixtures;
+
+namespace {
+
+class Cleanup : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        testing_support::ResetGlobals();
+        SetUpLayers({"TOP", "GND"});
+    }
+};
+
+void ExpectPoints(const std::vector<ShapePoint>& expected, int32_t shape) {
+    std::vector<ShapePoint> got = PointsOf(shape);
+    ASSERT_EQ(expected.size(), got.size()) << "shape " << shape;
+    for (size_t k = 0; k < got.size(); ++k) {
+        EXPECT_NEAR(expected[k].x, got[k].x, 1e-12) << "shape " << shape << " point " << k;
+        EXPECT_NEAR(expected[k].y, got[k].y, 1e-12) << "shape " << shape << " point " << k;
+    }
+}
+
+// Outer square 0..10 joined by a slit along y = 5 to a hole 3..7, closed by its first point.
+const std::vector<ShapePoint> kKeyhole{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 5}, {3, 5}, {3, 7},
+                                       {7, 7}, {7, 3},  {3, 3},   {3, 5},  {0, 5}, {0, 0}};
+
+TEST_F(Cleanup, KeyholeSlitBecomesTwoShapesWithTheHoleOfOppositePolarity) {
+    AddPolygon(0, 1, kPolarityCopper, kKeyhole);
+    CleanPolygon(0);
+    ASSERT_EQ(2, g_model.ShapeCount());
+    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[0].polarity);
+    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 5}, {0, 0}}, 0);
+    const ShapeRec& hole = g_model.g_aShapes[1];
+    EXPECT_EQ(kPolarityVoid, hole.polarity);
+    EXPECT_EQ(0, hole.layer);
+    EXPECT_EQ(1, hole.net);
+    EXPECT_EQ(kGeometryPolygon, hole.geometry);
+    ExpectPoints({{3, 7}, {7, 7}, {7, 3}, {3, 3}}, 1);
+}
+
+TEST_F(Cleanup, KeyholeOfAVoidGivesACopperIsland) {
+    AddPolygon(0, 1, kPolarityVoid, kKeyhole);
+    CleanPolygon(0);
+    ASSERT_EQ(2, g_model.ShapeCount());
+    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
+}
+
+TEST_F(Cleanup, RoundSortsTheHoleBeforeTheRingAndDropsTheSlitFoot) {
+    AddPolygon(0, 1, kPolarityCopper, kKeyhole);
+    RunShapeCleanupRound();
+    ASSERT_EQ(2, g_model.ShapeCount());
+    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[0].polarity);
+    EXPECT_EQ(16.0, g_model.g_aShapes[0].area);
+    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
+    EXPECT_EQ(100.0, g_model.g_aShapes[1].area);
+    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 0}}, 1);
+    ASSERT_EQ(2u, g_model.g_aShapeBoxes.size());
+    EXPECT_EQ(3.0, g_model.g_aShapeBoxes[0].minX);
+    EXPECT_EQ(7.0, g_model.g_aShapeBoxes[0].maxY);
+    const LayerRec& top = g_model.g_aLayers[0];
+    EXPECT_EQ(10.0 * 0.00390625, top.gridX);
+    EXPECT_EQ(0.0, g_model.g_aLayers[1].gridX);
+}
+
+TEST_F(Cleanup, CollinearPointIsDroppedBelowTheToleranceAndKeptAbove) {
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {5, 0.00009}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
+    CleanPolygon(0);
+    CleanPolygon(1);
+    // The repeated closing point goes first: its neighbours are itself and the next point.
+    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 0}}, 0);
+    ExpectPoints({{5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}, 1);
+}
+
+TEST_F(Cleanup, RectangleLosesItsMidEdgePoint) {
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 2}, {0, 4}, {3, 4}, {3, 0}});
+    CleanPolygon(0);
+    ExpectPoints({{0, 0}, {0, 4}, {3, 4}, {3, 0}}, 0);
+}
+
+// Copper square 0..10 of net 1 and a neighbour 10..20 that shares its right edge.
+void AddNeighbours(int32_t net2, int32_t polarity2) {
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {10, 0}, {10, 10}, {0, 10}});
+    AddPolygon(0, net2, polarity2, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
+    SetLayerExtents();
+    SeparateTouchingEdges();
+}
+
+TEST_F(Cleanup, SplitPieceAndCopperSharingAnEdgeBothMoveInward) {
+    AddNeighbours(1, kPolaritySplit);
+    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
+    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
+}
+
+TEST_F(Cleanup, CopperOfTwoNetsSharingAnEdgeBothMoveInward) {
+    AddNeighbours(2, kPolarityCopper);
+    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
+    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
+}
+
+TEST_F(Cleanup, VoidNeverMovesButMarksTheCopperEdgeItTouches) {
+    AddNeighbours(1, kPolarityVoid);
+    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
+    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
+}
+
+TEST_F(Cleanup, TwoFillsOfOneNetSharingAnEdgeAreLeftAlone) {
+    AddNeighbours(1, kPolarityCopper);
+    ExpectPoints({{0, 0}, {10, 0}, {10, 10}, {0, 10}}, 0);
+    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
+}
+
+TEST_F(Cleanup, ClockwiseRingMovesIntoItselfToo) {
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 10}, {10, 10}, {10, 0}});
+    AddPolygon(0, 2, kPolarityCopper, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
+    SetLayerExtents();
+    SeparateTouchingEdges();
+    ExpectPoints({{0, 0}, {0, 10}, {9.9, 10}, {9.9, 0}}, 0);
+}
+
+TEST_F(Cleanup, NarrowNeighbourEdgesLimitTheMoveToTheirMidpoints) {
+    // A sliver 0.1 wide on top: its short sides stop the moved edge at their midpoints.
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {10, 0}, {10, 0.1}, {0, 0.1}});
+    AddPolygon(0, 2, kPolarityCopper, {{0, 0.1}, {10, 0.1}, {10, 5}, {0, 5}});
+    SetLayerExtents();
+    SeparateTouchingEdges();
+    ExpectPoints({{0, 0}, {10, 0}, {10, 0.05}, {0, 0.05}}, 0);
+    ExpectPoints({{0, 0.2}, {10, 0.2}, {10, 5}, {0, 5}}, 1);
+}
+
+TEST_F(Cleanup, FlatLayerHasNoGridAndNothingMoves) {
+    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 5}, {0, 10}});
+    AddPolygon(0, 2, kPolarityCopper, {{0, 10}, {0, 5}, {0, 0}});
+    SetLayerExtents();
+    EXPECT_EQ(0.0, g_model.g_aLayers[0].gridX);
+    SeparateTouchingEdges();
+    ExpectPoints({{0, 0}, {0, 5}, {0, 10}}, 0);
+}
+
+TEST_F(Cleanup, SortPutsCopperFirstOnEqualAreasWithinALayer) {
+    AddPolygon(1, 1, kPolarityVoid, {{0, 0}, {1, 0}, {1, 1}, {0, 1}});
+    AddPolygon(1, 1, kPolarityCopper, {{5, 5}, {6, 5}, {6, 6}, {5, 6}});
+    AddPolygon(0, 1, kPolarityVoid, {{0, 0}, {4, 0}, {4, 4}, {0, 4}});
+    AddPolygon(-1, 1, kPolarityCopper, {{0, 0}, {2, 0}, {2, 2}, {0, 2}});
+    SortShapes();
+    EXPECT_EQ(-1, g_model.g_aShapes[0].layer);
+    EXPECT_EQ(0, g_model.g_aShapes[1].layer);
+    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[2].polarity);
+    EXPECT_EQ(5.0, g_model.g_aShapeBoxes[2].minX);
+    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[3].polarity);
+    ShapeRun run = FindLayerShapeRun(1);
+    EXPECT_EQ(2, run.first);
+    EXPECT_EQ(4, run.end);
+    run = FindLayerShapeRun(5);
+    EXPECT_EQ(run.first, run.end);
+}
+
+TEST_F(Cleanup, DegenerateShapesPassTheRoundSafely) {
+    AddPolygon(0, 1, kPolarityCopper, {{1, 1}});
+    AddPolygon(0, 1, kPolarityCopper, {{1, 1}, {2, 2}});
+    AddPolygon(0, 1, kPolarityCopper, {{3, 3}, {3, 3}, {3, 3}});  // chords of length 0
+    AddPolygon(0, 1, kPolarityCopper, {});
+    AddPolygon(1, 1, kPolarityCopper, {{0, 0}, {0, 0}, {0, 0}, {0, 0}});
+    AddPolygon(7, 1, kPolarityCopper, {{0, 0}, {1, 0}, {1, 1}});  // no such layer
+    AddPolygon(0, 1, kPolarityCopper,
+               {{NAN, 0}, {1, INFINITY}, {2, 2}, {-INFINITY, 0}, {NAN, NAN}});
+    AddCircle(0, 1, 0, 0, 0);
+    RunShapeCleanupRound();
+    RunShapeCleanupRound();
+    EXPECT_EQ(8, g_model.ShapeCount());
+    EXPECT_EQ(8u, g_model.g_aShapeBoxes.size());
+}
+
+}  // namespace
+
+namespace {
+
+// A 100 x 100 ring with a saw-toothed bottom (so no point of it is collinear) and `holes`
+// square holes of 4 x 10 hanging from slits that come down from the top edge.
+std::vector<ShapePoint> CombOfKeyholes(int holes) {
+    std::vector<ShapePoint> p;
+    for (int k = 0; k <= 100; ++k) p.push_back({double(k), (k % 2) * 0.5});
+    p.push_back({100, 100});
+    for (int j = holes - 1; j >= 0; --j) {
+        double x = 10.0 * j + 5;
+        p.push_back({x, 100});
+        p.push_back({x, 60});
+        p.push_back({x + 2, 60});
+        p.push_back({x + 2, 50});
+        p.push_back({x - 2, 50});
+        p.push_back({x - 2, 60});
+        p.push_back({x, 60});
+        p.push_back({x, 100});
+    }
+    p.push_back({0, 100});
+    return p;
+}
+
+TEST_F(Cleanup, ManySlitsOfALargeRingEachGiveAHole) {
+    std::vector<ShapePoint> comb = CombOfKeyholes(9);
+    AddPolygon(0, 1, kPolarityCopper, comb);
+    CleanPolygon(0);
+    ASSERT_EQ(10, g_model.ShapeCount());
+    // The ring keeps the saw teeth, the top corners and each slit's top point once.
+    EXPECT_EQ(101 + 1 + 9 + 1, g_model.g_aShapes[0].pointCount);
+    for (int i = 1; i <= 9; ++i) {
+        double x = 10.0 * (9 - i) + 5;  // the last hole of the walk is split first
+        EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[i].polarity) << i;
+        ExpectPoints({{x + 2, 60}, {x + 2, 50}, {x - 2, 50}, {x - 2, 60}}, i);
+    }
+    std::vector<ShapePoint> ring = PointsOf(0);
+    for (const ShapePoint& q : ring) EXPECT_TRUE(q.y <= 0.5 || q.y == 100) << q.x << " " << q.y;
+}
+
+}  // namespace
