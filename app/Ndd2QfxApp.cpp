@@ -57,10 +57,13 @@ void CNdd2QfxApp::DecideFolder(std::string& folder) {
     } else if (o.g_strCmdInputFile.empty()) {
         return;
     } else {
+        // A bare name goes into the current folder even when the input's folder has already
+        // taken over as the working folder.
+        const std::string current = folder;
         for (std::string* name : {&o.g_strCmdInputFile, &o.g_strCmdOutputFile}) {
             if (name->empty()) continue;
             if (!base::HasSeparator(*name))
-                *name = InFolder(folder, *name);
+                *name = InFolder(current, *name);
             else
                 folder = FolderOf(*name);
         }

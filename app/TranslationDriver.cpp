@@ -9,6 +9,7 @@
 #include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
@@ -30,6 +31,7 @@
 #include "ndd/Units.h"
 #include "ndd/ViaPass.h"
 #include "qfx/LayerWriter.h"
+#include "qfx/MakeVias.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/Skeleton.h"
@@ -47,6 +49,11 @@ const char kTracesQuestion[] =
     "   The translation is usually more accurate \r\n"
     "   when this file is used in conjunction with the ndd file.\r\n"
     "\r\nIt is highly recommended.";
+
+// Small voids are dropped by area, or around vias: then the void check must run first.
+bool VoidCheckWanted() {
+    return g_options.g_dbVoidAreaLimit != 0 || g_options.g_bExcludeVoidEnclosingVia;
+}
 
 // Reports a failure to the user and to the trace with the same words.
 int Fail(const std::string& text) {
@@ -151,6 +158,15 @@ int TranslationDriver::FailPipeline() {
     return 0;
 }
 
+int TranslationDriver::FailMakeVias() {
+    if (g_options.g_pOutputFile) std::fclose(g_options.g_pOutputFile);
+    g_options.g_pOutputFile = nullptr;
+    if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
+    g_options.g_pLogFile = nullptr;
+    TraceStep(true, "fail to Make Via");
+    return 0;
+}
+
 int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
                                          const std::string& outputFile,
                                          const std::string& outputFolder) {
@@ -187,6 +203,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
 
     if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
         AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
+
     RebuildNodeArray();
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
@@ -208,8 +225,19 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "MakePackage");
     WritePackageHead(out);
 
+    if (VoidCheckWanted()) {
+        ShowStage("Check Undiscardable Void Shapes ...");
+        CheckUndiscardableVoids();
+    }
+
     RebuildNodeArray();
     ParseThermalTies();
+
+    TraceStep(true, "Writing Via Info...");
+    if (g_options.g_bTranslateVias) {
+        ShowStage("Writing Via Info...");
+        if (!MakeVias()) return FailMakeVias();
+    }
 
     // The last copy of the node set: from here on the passes work on the array.
     RebuildNodeArray();
@@ -225,6 +253,7 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     // again right after.
     GenerateTraceGaps();
     RunShapeCleanupRound();
+    if (VoidCheckWanted()) CheckUndiscardableVoids();
 
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {

@@ -35,6 +35,8 @@ class TranslationDriver {
   private:
     int ReadDesignData(const std::string& inputFile);
     int FailPipeline();
+    // MakeVias failed: output and log are closed and cleared.
+    int FailMakeVias();
 };
 
 // Frees the per-translation arrays of the model.

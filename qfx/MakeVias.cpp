@@ -1,0 +1,202 @@
+#include "qfx/MakeVias.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "app/TranslationOptions.h"
+#include "geometry/NodeSet.h"
+#include "geometry/PointInShape.h"
+#include "ndd/LayoutModel.h"
+#include "qfx/Naming.h"
+#include "qfx/ViaContact.h"
+
+namespace {
+
+// Every printed length is multiplied by this, and an area limit divided twice; nothing ever
+// changes it.
+constexpr double kOutputScale = 1.0;
+
+bool RealNet(int32_t net) {
+    return net != kNoNet && net != kNoNetAlt;
+}
+
+bool IsVoid(const ShapeRec& s) {
+    return s.polarity != kPolarityCopper;
+}
+
+// A via node takes the position of the via's upper node. The move is within the node
+// tolerance of where the node was found, so the set's order is kept.
+void PlaceAt(const NodeRec* node, double x, double y) {
+    NodeRec* n = const_cast<NodeRec*>(node);
+    n->x = x;
+    n->y = y;
+}
+
+// One via's walk down its layers.
+class ViaBuilder {
+  public:
+    ViaBuilder(const ViaRec& via, ShapeLocator& locator, uint32_t& number)
+        : via_(via), locator_(locator), number_(number) {}
+
+    bool Build() {
+        int32_t shape = kNoShape;
+        const int contact =
+            via_.noContact ? 0 : ViaContact(via_.startLayer, via_, &shape, &locator_);
+        const NodeRec* upper = AddViaNode(via_.x, via_.y, via_.startLayer, via_.net,
+                                          static_cast<uint16_t>(contact), 1);
+        if (!upper) return false;
+        upper->contact = static_cast<uint16_t>(contact);
+        x_ = upper->x;
+        y_ = upper->y;
+        DiscardEndVoid(shape);
+        upperId_ = upper->id;
+        upperNet_ = upper->net;
+        if (!via_.noContact) {
+            const int32_t end = std::min<int32_t>(via_.endLayer, g_model.g_nLayerCount);
+            for (int32_t L = via_.startLayer + 1; L < end; ++L)
+                if (!MiddleLayer(L)) return false;
+        }
+        return LowerEnd();
+    }
+
+  private:
+    // A small void on an end layer goes when the option asks for it and nothing needs it.
+    void DiscardEndVoid(int32_t shape) {
+        if (shape == kNoShape) return;
+        ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(shape)];
+        if (IsVoid(s) && g_options.g_bExcludeVoidEnclosingVia && Limit() > s.area &&
+            !s.undiscardable)
+            s.discarded = 1;
+    }
+
+    static double Limit() { return g_options.g_dbViaVoidArea / kOutputScale / kOutputScale; }
+
+    bool MiddleLayer(int32_t L) {
+        if (g_model.g_aLayers[L].kind == kLayerDielectric) return true;
+        if (NodeNear(L, ViaPadRadius(via_, L))) return Connect(L, false);
+        const int32_t shape = ShapeAtCentre(L);
+        if (shape == kNoShape) return true;
+        ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(shape)];
+        if (!IsVoid(s)) return Connect(L, true);
+        if (Limit() > s.area) {
+            if (!s.undiscardable)
+                s.discarded = g_options.g_bExcludeVoidEnclosingVia;
+            else
+                WarnEnclosed(shape);
+        }
+        return true;
+    }
+
+    // A node of the layer within the pad radius of the centre: a trace end on the pad.
+    bool NodeNear(int32_t L, double r) const {
+        // No distance is below a radius of 0 or less; nor is the range walk bounded then.
+        if (!(r > 0.0)) return false;
+        bool found = false;
+        WalkNodeRange(L, x_ - r, y_ - r, x_ + r, y_ + r, [&](const NodeRec& n) {
+            const double dx = n.x - x_, dy = n.y - y_;
+            found = std::sqrt(dx * dx + dy * dy) < r;
+            return found;
+        });
+        return found;
+    }
+
+    // The first shape of the layer that holds the centre, passing over copper of another net
+    // (and, with no-net etches included, any copper when the via has no net). Copper of
+    // another real net that holds the centre gives the layer up when fills get a gap.
+    int32_t ShapeAtCentre(int32_t L) const {
+        const bool gap = g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0;
+        bool givenUp = false;
+        const int32_t hit = FirstShapeHolding(L, x_, y_, &locator_, [&](int32_t i) {
+            const ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(i)];
+            if (!IsVoid(s)) {
+                const bool foreign = via_.net != kNoNet && s.net != via_.net;
+                const bool noNetSkip = via_.net == kNoNet && g_options.g_nIncludeNoNetEtches;
+                if (foreign || noNetSkip) {
+                    if (gap && s.net != via_.net && RealNet(s.net) && RealNet(via_.net) &&
+                        PointInShape(i, x_, y_, true))
+                        givenUp = true;
+                    return givenUp;
+                }
+            }
+            return PointInShape(i, x_, y_, true) != 0;
+        });
+        return givenUp ? kNoShape : hit;
+    }
+
+    // Joins the barrel to the via's node on layer L and makes that node the upper end.
+    bool Connect(int32_t L, bool placeAtUpper) {
+        const NodeRec* node = FindNode(L, x_, y_);
+        if (node) {
+            node->viaRefs = 1;
+        } else {
+            node = AddViaNode(x_, y_, L, via_.net, 1, 1);
+            if (!node) return false;
+            node->padStack = via_.padStack;
+            node->rotation = via_.rotation;
+        }
+        if (placeAtUpper) PlaceAt(node, x_, y_);
+        AddStretch(node);
+        return true;
+    }
+
+    bool LowerEnd() {
+        int32_t shape = kNoShape;
+        const int contact = via_.noContact ? 0 : ViaContact(via_.endLayer, via_, &shape, &locator_);
+        DiscardEndVoid(shape);
+        const NodeRec* lower =
+            AddViaNode(via_.x, via_.y, via_.endLayer, via_.net, static_cast<uint16_t>(contact), 1);
+        if (!lower) return false;
+        PlaceAt(lower, x_, y_);
+        lower->contact = static_cast<uint16_t>(contact);
+        AddStretch(lower);
+        return true;
+    }
+
+    void AddStretch(const NodeRec* lower) {
+        ViaOutRec out;
+        out.number = number_++;
+        out.padStack = via_.padStack;
+        out.rotation = via_.rotation;
+        out.net = via_.net;
+        out.drillIndex = via_.drillIndex;
+        out.upperNode = upperId_;
+        out.upperNet = static_cast<uint16_t>(upperNet_);
+        out.lowerNode = lower->id;
+        out.lowerNet = static_cast<uint16_t>(lower->net);
+        g_model.g_aViaOut.push_back(out);
+        upperId_ = lower->id;
+        upperNet_ = lower->net;
+    }
+
+    // The warning names the net with one colon and its plain name.
+    void WarnEnclosed(int32_t shape) const {
+        FILE* log = g_options.g_pLogFile;
+        if (!log) return;
+        const ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(shape)];
+        const std::string net = via_.net == kNoNet ? std::string() : ":" + PlainNetName(via_.net);
+        std::fprintf(log,
+                     "Warning : Via%s%0ld%s(%lemm, %lemm) is enclosed by undiscardable %s%s%0d\n",
+                     Affix().c_str(), static_cast<long>(number_), net.c_str(), x_ * kOutputScale,
+                     y_ * kOutputScale, s.geometry == kGeometryCircle ? "Circle" : "Polygon",
+                     Affix().c_str(), static_cast<int>(shape));
+    }
+
+    const ViaRec& via_;
+    ShapeLocator& locator_;
+    uint32_t& number_;
+    double x_ = 0.0, y_ = 0.0;
+    uint32_t upperId_ = 0;
+    int32_t upperNet_ = kNoNet;
+};
+
+}  // namespace
+
+int MakeVias() {
+    g_model.g_aViaOut.clear();
+    ShapeLocator locator;
+    uint32_t number = 1;
+    for (const ViaRec& via : g_model.g_aVias)
+        if (!ViaBuilder(via, locator, number).Build()) return 0;
+    return 1;
+}
