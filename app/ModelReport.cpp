@@ -33,7 +33,9 @@ void ReopenLog(const std::string& logPath) {
 }
 
 // Every section from the finished model, whatever the four element switches say.
-void WriteAllSections(FILE* out) {
+void WriteAllSections(FILE* out, ModelAssignment* models, ComponentNodes* nodes) {
+    (void)models;
+    (void)nodes;
     WriteTitle(out);
     WriteTransient(out);
     WriteMesh(out);
@@ -44,15 +46,16 @@ void WriteAllSections(FILE* out) {
     WriteTraces(out);
     WriteVias(out);
     WritePackageEnd(out);
-    // circuit description
+    // The circuit description (models) goes here.
     if (g_options.g_pLogFile) WriteModelReportLines(g_options.g_pLogFile);
-    // linkage section
+    // The linkage section (nodes) goes here.
     WriteFileEnd(out);
 }
 
 }  // namespace
 
-int WriteModelReport(const std::string& outputFile) {
+int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
+                     ComponentNodes* nodes) {
     RebuildNodeIndex();
     if (g_options.g_pOutputFile) std::fclose(g_options.g_pOutputFile);
     g_options.g_pOutputFile = std::fopen(outputFile.c_str(), "w");
@@ -64,7 +67,7 @@ int WriteModelReport(const std::string& outputFile) {
     }
     ReopenLog(base + ".log");
     WriteLogHeader();
-    WriteAllSections(g_options.g_pOutputFile);
+    WriteAllSections(g_options.g_pOutputFile, models, nodes);
     std::fclose(g_options.g_pOutputFile);
     g_options.g_pOutputFile = nullptr;
     if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
