@@ -98,9 +98,12 @@ TEST(TranslationOrder, OutputWithAnotherExtensionIsWrittenUnderItsOwnName) {
     ScratchDir dir;
     dir.Write("e.ndd", "%length mm;\n");
     EXPECT_EQ(RunProgram(dir.Path(), {"-NoUI", "e.ndd", "b.txt"}), 0);
+    // The file opened first keeps the first writing; the second writing goes to the name
+    // handed on, while the log follows the run's own output name.
     EXPECT_EQ(SplitLines(ReadFile(dir.File("b.txt"))).back(), ".End");
+    EXPECT_EQ(ReadFile(dir.File("b.txt.QFX")), ReadFile(dir.File("b.txt")));
     EXPECT_TRUE(std::ifstream(dir.File("b.txt.log")).good());
-    EXPECT_FALSE(std::ifstream(dir.File("b.txt.QFX")).good());
+    EXPECT_FALSE(std::ifstream(dir.File("b.txt.QFX.log")).good());
 }
 
 TEST(TranslationOrder, BareOutputNameStaysInTheCurrentFolder) {
