@@ -1,6 +1,9 @@
 #include "ndd/ParseElement.h"
 
+#include <new>
+
 #include "app/Progress.h"
+#include "app/ReportMessage.h"
 #include "app/TranslationOptions.h"
 #include "geometry/ShapeTable.h"
 #include "ndd/BoardOutline.h"
@@ -83,9 +86,7 @@ std::string NextRecordLine(base::LineStream& stream) {
     return "\n";
 }
 
-}  // namespace
-
-int ParseElement(const std::string& path) {
+int ReadElements(const std::string& path) {
     ParseBoardOutline(path);
     g_model.g_aShapes.clear();
     g_model.g_aShapePoints.clear();
@@ -126,4 +127,15 @@ int ParseElement(const std::string& path) {
         }
     }
     return 1;
+}
+
+}  // namespace
+
+int ParseElement(const std::string& path) {
+    try {
+        return ReadElements(path);
+    } catch (const std::bad_alloc&) {
+        ReportMessage("Insufficient Memory");
+        return 0;
+    }
 }

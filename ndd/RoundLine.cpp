@@ -1,4 +1,5 @@
 #include <cmath>
+#include <new>
 
 #include "app/TranslationOptions.h"
 #include "geometry/ShapeArea.h"
@@ -8,6 +9,9 @@ namespace {
 // Largest angle step of a round end, and the step used when the arc length gives none.
 constexpr double kMaxArcStep = 0.7853981633974483;
 constexpr double kFallbackArcStep = 0.00038358884659216034;
+// More chords than this is a memory failure: no board needs them, a width of 1e300 would ask
+// for more than any table holds, and a step below the angle's precision would never advance.
+constexpr double kMaxRoundLinePoints = 16777216.0;
 }  // namespace
 
 std::vector<ShapePoint> ExpandRoundLine(double x1, double y1, double x2, double y2, double w) {
@@ -17,9 +21,11 @@ std::vector<ShapePoint> ExpandRoundLine(double x1, double y1, double x2, double 
         s = kFallbackArcStep;
     else if (s > kMaxArcStep)
         s = kMaxArcStep;
+    double estimate = 4 + 2 * kPi / s;
+    if (!(estimate <= kMaxRoundLinePoints)) throw std::bad_alloc();
     double a = std::atan2(y2 - y1, x2 - x1);
     std::vector<ShapePoint> pts;
-    pts.reserve(static_cast<size_t>(4 + 2 * kPi / s));
+    pts.reserve(static_cast<size_t>(estimate));
     auto at = [&](double cx, double cy, double ang) {
         pts.push_back({cx + r * std::cos(ang), cy + r * std::sin(ang)});
     };

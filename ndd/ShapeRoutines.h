@@ -32,5 +32,6 @@ void AddLinePathShape(const std::string& line, base::LineStream& stream, int32_t
 void SplitPolygonOnRepeats(std::vector<std::string>& words, int32_t net, int32_t layer);
 
 // Outline of a segment of width w with round ends, its arcs made of chords whose angle step is
-// the maximum arc length over the radius, at most pi/4.
+// the maximum arc length over the radius, at most pi/4. Throws std::bad_alloc when that would
+// take more than 2^24 points.
 std::vector<ShapePoint> ExpandRoundLine(double x1, double y1, double x2, double y2, double w);
