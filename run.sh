@@ -1,14 +1,31 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and translates the example board.
+# Installs what is missing, builds, translates the example board and prints a summary of
+# what the translation wrote.
 cd "$(dirname "$0")"
 source ./tools_common.sh
 install_missing
 build build
 example="$PWD/examples/board.ndd"
+output="${example%.ndd}.qfx"
+start=$(date +%s%N)
 # The side files add thermal ties and conductive areas; 20 asks for gaps of 20 % around traces.
 KEEP_BENCHMARK=${KEEP_BENCHMARK:-0} ./build/ndd2qfx -NoUI -traces "$PWD/examples/traces" \
-    -hkp "$PWD/examples/layout.hkp" "$example" "${example%.ndd}.qfx" 20 || true
-echo "Output:    ${example%.ndd}.qfx"
-echo "Log:       ${example%.ndd}.qfx.log"
+    -hkp "$PWD/examples/layout.hkp" "$example" "$output" 20 || true
+end=$(date +%s%N)
+echo "Output:    $output"
+echo "Log:       $output.log"
 echo "Reports:   $(dirname "$example")/error.log"
-[ -s "${example%.ndd}.qfx" ]
+[ -s "$output" ] || { echo "No output was written." >&2; exit 1; }
+# Counts of the statements that the QFX file holds, by their leading words.
+awk -v ms="$(((end - start) / 1000000))" '
+    /^(Signal|Plane|Medium)\$/ || /^(MediumPseudo|PlanePseudo)[0-9]/ { layers++ }
+    /^(Circle|Box|Polygon)/ { shapes++ }
+    /^Node/ { nodes++ }
+    /^Trace/ { traces++ }
+    /^Via/ { vias++ }
+    /^\.Connect / { components++ }
+    END {
+        printf "Summary:   %d layers, %d shapes, %d nodes, %d traces, %d vias, %d components", \
+            layers, shapes, nodes, traces, vias, components
+        printf " written in %d.%03d s\n", ms / 1000, ms % 1000
+    }' "$output"

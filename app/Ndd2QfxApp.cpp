@@ -6,6 +6,7 @@
 
 #include "Version.h"
 #include "app/CommandLine.h"
+#include "app/LogLoader.h"
 #include "app/ReportMessage.h"
 #include "app/TraceStep.h"
 #include "app/TranslationDriver.h"
@@ -100,6 +101,10 @@ int CNdd2QfxApp::InitInstance() {
     o.g_strInputFile = o.g_strCmdInputFile;
     o.g_strOutputFile = o.g_strCmdOutputFile;
     o.g_nQuiet = o.g_nBatchMode;
+    if (!o.g_strCmdLogFile.empty()) {
+        LoadLogFile(o.g_strCmdLogFile, o.g_strCmdInputFile, o.g_strCmdOutputFile);
+        driver.m_bReread = true;
+    }
 
     if (o.g_nBatchMode != 0) {
         TraceStep(true, "batch mode");

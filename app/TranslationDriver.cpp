@@ -2,9 +2,11 @@
 
 #include <cstdio>
 
+#include "app/ModelReport.h"
 #include "app/Progress.h"
 #include "app/ReportMessage.h"
 #include "app/TraceStep.h"
+#include "app/TranslationLog.h"
 #include "app/TranslationOptions.h"
 #include "base/Platform.h"
 #include "geometry/CheckUndiscardableVoids.h"
@@ -227,7 +229,6 @@ int TranslationDriver::FailMakeVias() {
 int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
                                          const std::string& outputFile,
                                          const std::string& outputFolder) {
-    (void)outputFile;
     if (g_options.g_nQuiet == 0) SetProgress(0);
     ShowStage("Begin ...");
     g_model.g_dbWorkMinX = g_options.g_dbSpatialMinX;
@@ -239,6 +240,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
         TraceStep(true, "Cannot open file : %s", inputFile.c_str());
         return 0;
     }
+    WriteLogHeader();
+    TraceStep(true, "LogHeader");
     ShowStage("Processing Layer Info ...");
     ShowStage("Processing Via Info ...");
     TraceStep(true, "ParsePadDef");
@@ -341,6 +344,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WriteFileEnd(out);
     std::fclose(out);
     g_options.g_pOutputFile = nullptr;
+    if (!WriteModelReport(outputFile, g_pModelAssignment.get(), g_pComponentNodes.get()))
+        return FailPipeline();
 
     if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
     g_options.g_pLogFile = nullptr;

@@ -36,8 +36,9 @@ class StringMap {
     StringMap& operator=(const StringMap& other) {
         if (this != &other) {
             buckets_ = other.buckets_;
-            Clear();
-            chains_.assign(buckets_, {});
+            index_.clear();
+            chains_.clear();
+            chains_.resize(buckets_);
             CopyFrom(other);
         }
         return *this;

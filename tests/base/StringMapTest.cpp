@@ -37,6 +37,11 @@ TEST(StringMap, CopyKeepsTheWalkingOrder) {
     base::StringMap<int> copy = map;
     EXPECT_EQ(copy.Keys(), map.Keys());
     EXPECT_EQ(copy.BucketCount(), 10u);
+    base::StringMap<int> assigned(3);
+    assigned.Set("old", 1);
+    assigned = map;
+    EXPECT_EQ(assigned.Keys(), map.Keys());
+    EXPECT_FALSE(assigned.Contains("old"));
 }
 
 }  // namespace

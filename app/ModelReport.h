@@ -1,0 +1,16 @@
+#pragma once
+// The step that ends a translation: the output and the log are emptied and written again
+// from the finished model, so the file the user gets is this second writing.
+#include <string>
+
+class ModelAssignment;
+class ComponentNodes;
+
+// outputFile is the output's name as the pipeline hands it on; the log follows the run's
+// output name (g_strOutputFile). models and nodes are the translation's block table and
+// component nodes, for the circuit description and the linkage section. Returns 1, or 0 when
+// the output cannot be opened again.
+int WriteModelReport(const std::string& outputFile, ModelAssignment* models = nullptr,
+                     ComponentNodes* nodes = nullptr);
+// The same with the run's output name.
+int WriteModelReport();

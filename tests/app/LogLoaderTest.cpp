@@ -1,0 +1,309 @@
+#include "app/LogLoader.h"
+
+#include <gtest/gtest.h>
+
+#include "TestSupport.h"
+#include "app/TranslationOptions.h"
+#include "ndd/LayoutModel.h"
+
+using namespace testing_support;
+
+namespace {
+
+const char kHead[] =
+    "Ndd2Qfx Version 1.0.0.1\n"
+    "From file : /nowhere/in.ndd\n"
+    "To file : /nowhere/out.qfx\n"
+    "Saturday  November 21  10:00:00  2026\n";
+
+const char kBoard[] =
+    "%length TN;\n"
+    "%port \"U1-1\" \"CLK\";\n"
+    "%port \"U1-2\" \"GND\";\n"
+    "%port \"U1-3\" \"VCC\";\n"
+    "%port \"U1-4\" \"DATA\";\n";
+
+// Batch run with its reports captured.
+void StartBatchRun() {
+    ResetGlobals();
+    g_options.g_nBatchMode = -1;
+    g_options.g_pErrorLog = std::tmpfile();
+}
+
+std::string Reports() {
+    return ReadStream(g_options.g_pErrorLog);
+}
+
+struct Loaded {
+    bool ok;
+    std::string input, output;
+};
+
+Loaded Load(const ScratchDir& dir, const std::string& text, std::string input = "/nowhere/in.ndd",
+            std::string output = "/nowhere/out.qfx") {
+    std::string path = dir.Write("prev.log", text);
+    bool ok = LoadLogFile(path, input, output);
+    return {ok, input, output};
+}
+
+TEST(LogLoader, AllNetsLineFollowedByNetLinesRestoresAllNetsMode) {
+    StartBatchRun();
+    ScratchDir dir;
+    Loaded r = Load(dir, std::string(kHead) +
+                             "\nNets Translated : \n\tAll nets are selected\n\tCLK\tred\n"
+                             "\tGND\tgreen\n\nSettings :\n");
+    ASSERT_TRUE(r.ok);
+    EXPECT_EQ(g_options.g_bAllNets, 1);
+    EXPECT_EQ(g_options.g_bSelectedOnly, 0);
+    EXPECT_EQ(g_options.g_bAllNetsFromLog, 1);
+    EXPECT_EQ(g_options.g_bLogLoaded, 1);
+    EXPECT_EQ(g_options.g_nSelectedNetCount, 0);
+    // The colour column is taken all the same.
+    EXPECT_EQ(g_options.g_lstLogNets, (std::vector<std::string>{"CLK", "GND"}));
+    EXPECT_EQ(g_options.g_lstLogColors, (std::vector<std::string>{"red", "green"}));
+}
+
+TEST(LogLoader, NetLinesSelectNetsWithTheirColours) {
+    StartBatchRun();
+    ScratchDir dir;
+    std::string input = dir.Write("in.ndd", kBoard);
+    Loaded r = Load(dir,
+                    "Ndd2Qfx Version 1.0.0.1\nFrom file : in.ndd\n\nNets Translated : \n"
+                    "\tGND\tblue\n\tclk\tDarkRed\n\tNOSUCH\tred\n\tDATA\tDefault\n",
+                    "", "");
+    ASSERT_TRUE(r.ok);
+    EXPECT_EQ(r.input, input);
+    EXPECT_EQ(r.output, dir.File("in.qfx"));
+    EXPECT_EQ(g_options.g_bAllNets, 0);
+    EXPECT_EQ(g_options.g_bSelectedOnly, 1);
+    EXPECT_EQ(g_options.g_bAllNetsFromLog, 0);
+    // Table, sorted without case: CLK 0, DATA 1, GND 2, VCC 3.
+    EXPECT_EQ(g_options.g_nSelectedNetCount, 4);
+    EXPECT_EQ(g_options.g_pSelectedNets, (std::vector<int32_t>{2, 0, kNoNet, 1}));
+    // Rotation first (1, 2, 3, 4), then the log's colours: darkred 9, blue 3, Default 0.
+    EXPECT_EQ(g_options.g_pNetColors, (std::vector<int32_t>{9, 0, 3, 4}));
+}
+
+TEST(LogLoader, LogWithoutNetBlockMeansAllNets) {
+    StartBatchRun();
+    ScratchDir dir;
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tTranslate pads\n").ok);
+    EXPECT_EQ(g_options.g_bAllNets, 1);
+    EXPECT_EQ(g_options.g_bSelectedOnly, 0);
+    EXPECT_EQ(g_options.g_bAllNetsFromLog, 1);
+}
+
+TEST(LogLoader, OlderWordingsLoadAsTheNewerOnes) {
+    StartBatchRun();
+    ScratchDir dir;
+    g_options.g_nIncludeNoNetEtches = 1;
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tExclude etches with no net names\n"
+                                               "\tExclude traces shorter than 0.300000 mm\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_nIncludeNoNetEtches, 0);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.3);
+
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tInclude etches with no net names\n"
+                                               "\tUnion traces shorter than 1.250000 mm\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_nIncludeNoNetEtches, 1);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 1.25);
+}
+
+TEST(LogLoader, ViaVoidLineAloneSetsTenSquareMillimetres) {
+    StartBatchRun();
+    ScratchDir dir;
+    ASSERT_TRUE(
+        Load(dir, std::string(kHead) + "\nSettings :\n\tExclude void shapes enclosing vias\n").ok);
+    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
+    EXPECT_EQ(g_options.g_dbViaVoidArea, 10.0);
+
+    ASSERT_TRUE(Load(dir, std::string(kHead) +
+                              "\nSettings :\n\tExclude void shapes enclosing vias with area less "
+                              "than 2.500000 mm x mm\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_dbViaVoidArea, 2.5);
+}
+
+TEST(LogLoader, NumbersAreReadAtFixedCharacterPositions) {
+    StartBatchRun();
+    ScratchDir dir;
+    // Position 27 of the union line is the second character behind its words, and so on.
+    ASSERT_TRUE(Load(dir, std::string(kHead) +
+                              "\nSettings :\n"
+                              "\tUnion traces shorter than1.5 mm\n"
+                              "\tExclude void shapes with area less than:2 mm x mm\n"
+                              "\tMaximum arc length replaced by line segment:0.75 mm\n"
+                              "\tExclude void shapes enclosing vias, older form\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.5);
+    EXPECT_EQ(g_options.g_dbVoidAreaLimit, 2.0);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.75);
+    // A longer via line that is not the newer wording keeps the 10.0 of the short one.
+    EXPECT_EQ(g_options.g_dbViaVoidArea, 10.0);
+    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
+
+    // A line that stops at its words reads as 0.
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tUnion traces shorter than\n").ok);
+    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.0);
+}
+
+TEST(LogLoader, NameAffixKeepsFourCharacters) {
+    StartBatchRun();
+    ScratchDir dir;
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tName affix : ABCDEF\n").ok);
+    EXPECT_EQ(g_options.g_strNameAffix, "ABCD");
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tName affix : X_\n").ok);
+    EXPECT_EQ(g_options.g_strNameAffix, "X_");
+}
+
+TEST(LogLoader, ArcLengthOutOfBoundsComesOutAsTheDefault) {
+    StartBatchRun();
+    ScratchDir dir;
+    const std::string arc = "\nSettings :\n\tMaximum arc length replaced by line segment ";
+    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "5000.000000 mm\n").ok);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.2);
+    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "0.000500 mm\n").ok);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.2);
+    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "1000.000000 mm\n").ok);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 1000.0);
+    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "0.001000 mm\n").ok);
+    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.001);
+}
+
+TEST(LogLoader, FirstLineEmptyIsPassedOver) {
+    StartBatchRun();
+    ScratchDir dir;
+    ASSERT_TRUE(Load(dir, "\n\n" + std::string(kHead) + "\nSettings :\n\tName affix : Q\n").ok);
+    EXPECT_EQ(g_options.g_strNameAffix, "Q");
+    EXPECT_EQ(g_options.g_bLogLoaded, 1);
+    EXPECT_EQ(Reports(), "");
+}
+
+TEST(LogLoader, AFileThatIsNoLogChangesOnlyTheWriteFlags) {
+    StartBatchRun();
+    ScratchDir dir;
+    g_options.g_bTranslateShapes = 0;
+    g_options.g_bTranslateVias = 0;
+    Loaded r = Load(dir, "\nHello\nNets Translated : \n\tCLK\tred\nSettings :\n\tName affix : Z\n",
+                    "a.ndd", "b.qfx");
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(Reports(),
+              "The file :\n" + dir.File("prev.log") + "\nis not Ndd2Qfx translation log file\n");
+    EXPECT_EQ(g_options.g_bTranslateShapes, 1);
+    EXPECT_EQ(g_options.g_bTranslateVias, 1);
+    EXPECT_EQ(g_options.g_strNameAffix, "");
+    EXPECT_TRUE(g_options.g_lstLogNets.empty());
+    EXPECT_EQ(g_options.g_bLogLoaded, 0);
+    EXPECT_EQ(r.input, "a.ndd");
+    EXPECT_EQ(r.output, "b.qfx");
+}
+
+TEST(LogLoader, MissingFileIsReported) {
+    StartBatchRun();
+    std::string input = "a.ndd", output;
+    EXPECT_FALSE(LoadLogFile("/nonexistent/prev.log", input, output));
+    EXPECT_EQ(Reports(), "Cannot open the specified file : /nonexistent/prev.log\n");
+    EXPECT_EQ(g_options.g_bLogLoaded, 0);
+}
+
+TEST(LogLoader, HeadPathsAcceptBothSeparatorsAndReplaceOnlyWhenDifferent) {
+    StartBatchRun();
+    ScratchDir dir;
+    const std::string log =
+        "NDD2QFX Version 1.0.0.1\n"
+        "from FILE :  board.ndd \t\n"
+        "To file : \\data\\run/out.qfx\\/\n";
+    Loaded r = Load(dir, log, "", "");
+    EXPECT_EQ(r.input, dir.File("board.ndd"));
+    EXPECT_EQ(r.output, "/data/run/out.qfx");
+    // A name equal but for case is kept as it was given.
+    std::string upper = dir.Path() + "/BOARD.NDD";
+    r = Load(dir, log, upper, "/DATA/RUN/OUT.QFX");
+    EXPECT_EQ(r.input, upper);
+    EXPECT_EQ(r.output, "/DATA/RUN/OUT.QFX");
+    // An empty path leaves the name alone.
+    r = Load(dir, "Ndd2Qfx\nFrom file : \nTo file :\n", "/x/a.b.ndd", "");
+    EXPECT_EQ(r.input, "/x/a.b.ndd");
+    EXPECT_EQ(r.output, "/x/a.b.qfx");
+}
+
+TEST(LogLoader, SettingsRestoreWhatTheLogSays) {
+    StartBatchRun();
+    ScratchDir dir;
+    g_options.g_bAllowPatches = 0;
+    g_options.g_bColorShapesByNet = 0;
+    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
+    const std::string log = std::string(kHead) +
+                            "\nSettings :\n"
+                            "\tNo signal traces on Power Plane\n"
+                            "\tALLOW PATCHES ON SIGNAL LAYERS\n"
+                            "\tDistinguish shapes of different nets by color\n"
+                            "\tExclude void shapes with area less than 0.750000 mm x mm\n"
+                            "\tTranslate component linkages\n"
+                            "\tGenerate Gap around Traces with Gap Size in terms of percentage of "
+                            "Trace Width : 25 extra\n"
+                            "\tName of the Data Field for Component Values :PART_VALUE\n"
+                            "\tSpatial range : (1.500000, -2.000000) -- (30.250000, 40.000000)    "
+                            "Unit : mm\n"
+                            "\tUnknown line is ignored\n"
+                            "\n"
+                            "\tName affix : LATE\n";
+    ASSERT_TRUE(Load(dir, log).ok);
+    const TranslationOptions& o = g_options;
+    EXPECT_EQ(o.g_bAllowSignalOnPlane, 0);
+    EXPECT_EQ(o.g_bAllowPatches, 1);
+    EXPECT_EQ(o.g_bColorShapesByNet, 1);
+    EXPECT_EQ(o.g_dbVoidAreaLimit, 0.75);
+    EXPECT_EQ(o.g_bTranslateLinkages, 1);
+    EXPECT_EQ(o.g_bWriteLinkages, 1);
+    EXPECT_EQ(o.g_strTraceGapPercent, "25");
+    EXPECT_EQ(o.g_strValueFieldName, "PART_VALUE");
+    EXPECT_EQ(o.g_bSpatialLimit, 1);
+    EXPECT_EQ(o.g_dbSpatialMinX, 1.5);
+    EXPECT_EQ(o.g_dbSpatialMinY, -2.0);
+    EXPECT_EQ(o.g_dbSpatialMaxX, 30.25);
+    EXPECT_EQ(o.g_dbSpatialMaxY, 40.0);
+    // The settings block ends at its first empty line.
+    EXPECT_EQ(o.g_strNameAffix, "");
+}
+
+TEST(LogLoader, LoadNormalisesTheRecordBeforeTheSettings) {
+    StartBatchRun();
+    ScratchDir dir;
+    // A batch run's flag without area, and a crossed range.
+    g_options.g_dbSpatialMinY = 9.0;
+    g_options.g_dbSpatialMaxY = 1.0;
+    g_options.g_bTranslateTraces = 0;
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n").ok);
+    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 0);
+    EXPECT_EQ(g_options.g_dbSpatialMaxY, 9.0);
+    EXPECT_EQ(g_options.g_bTranslateTraces, 1);
+}
+
+TEST(LogLoader, LayerBlockIsSkippedUpToTheSettings) {
+    StartBatchRun();
+    ScratchDir dir;
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nNets Translated : \n\tCLK\tred\n"
+                                               "Layer Arrangement : \n\tName affix : NO\n"
+                                               "\nSettings :\n\tName affix : YES\n")
+                    .ok);
+    EXPECT_EQ(g_options.g_strNameAffix, "YES");
+    EXPECT_EQ(g_options.g_lstLogNets, std::vector<std::string>{"CLK"});
+}
+
+TEST(LogLoader, LongLinesComeInPiecesOfTheLogBuffer) {
+    StartBatchRun();
+    ScratchDir dir;
+    // A net line of 1 + 400 characters: the first piece holds 383 characters, the name cut
+    // to 127; the remaining 18 characters arrive as a line of their own.
+    std::string longName(400, 'N');
+    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nNets Translated : \n\tAll nets are selected\n\t" +
+                              longName + "\n")
+                    .ok);
+    ASSERT_EQ(g_options.g_lstLogNets.size(), 2u);
+    EXPECT_EQ(g_options.g_lstLogNets[0], std::string(127, 'N'));
+    EXPECT_EQ(g_options.g_lstLogNets[1], std::string(18, 'N'));
+}
+
+}  // namespace
