@@ -10,10 +10,7 @@
 #include <sstream>
 #include <vector>
 
-#if __has_include("app/LogLoader.h")
 #include "app/LogLoader.h"
-#define NDD2QFX_HAVE_LOG_LOADER 1
-#endif
 #include "app/TraceStep.h"
 #include "app/TranslationDriver.h"
 #include "app/TranslationOptions.h"
@@ -126,7 +123,6 @@ int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folde
 
 int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder,
                      const std::string& boardPath) {
-#ifdef NDD2QFX_HAVE_LOG_LOADER
     ResetForInput();
     std::string log = folder + "/in.log";
     if (!WriteBytes(log, data, size)) return 0;
@@ -134,11 +130,6 @@ int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder
     std::string named = input, output = folder + "/out.qfx";
     if (!LoadLogFile(log, named, output)) return 0;
     return RunTranslation(input, folder);
-#else
-    // The log reader is not part of this build yet.
-    (void)data, (void)size, (void)folder, (void)boardPath;
-    return 0;
-#endif
 }
 
 }  // namespace fuzz

@@ -80,12 +80,7 @@ TEST_P(FuzzReplay, SavedFindings) {
     if (n == 0) GTEST_SKIP() << "no saved findings for " << GetParam();
 }
 
-#if __has_include("app/LogLoader.h")
 INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
                          ::testing::Values("translate", "traces", "hkp", "ibis", "log"));
-#else
-INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
-                         ::testing::Values("translate", "traces", "hkp", "ibis"));
-#endif
 
 }  // namespace
