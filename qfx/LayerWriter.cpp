@@ -3,10 +3,10 @@
 #include "app/TranslationOptions.h"
 #include "ndd/LayoutModel.h"
 #include "qfx/Naming.h"
+#include "qfx/OutputScale.h"
 
 namespace {
 
-constexpr double kOutputScale = 1.0;
 const char* const kLayerColors[6] = {"blue", "green", "red", "magenta", "yellow", "darkgreen"};
 
 // Prints one layer line; returns how many planes it counts for.

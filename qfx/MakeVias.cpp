@@ -9,13 +9,10 @@
 #include "geometry/PointInShape.h"
 #include "ndd/LayoutModel.h"
 #include "qfx/Naming.h"
+#include "qfx/OutputScale.h"
 #include "qfx/ViaContact.h"
 
 namespace {
-
-// Every printed length is multiplied by this, and an area limit divided twice; nothing ever
-// changes it.
-constexpr double kOutputScale = 1.0;
 
 bool RealNet(int32_t net) {
     return net != kNoNet && net != kNoNetAlt;

@@ -10,10 +10,9 @@
 #include "ndd/LayerLookup.h"
 #include "ndd/LayoutModel.h"
 #include "qfx/Naming.h"
+#include "qfx/OutputScale.h"
 
 namespace {
-
-constexpr double kOutputScale = 1.0;
 
 // A via padstack with no drill of its own takes the radius that its via's drill index
 // selects, so that the library prints a hole for it.

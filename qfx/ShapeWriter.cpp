@@ -7,11 +7,9 @@
 #include "app/TranslationOptions.h"
 #include "ndd/LayoutModel.h"
 #include "qfx/Naming.h"
+#include "qfx/OutputScale.h"
 
 namespace {
-
-// Every printed length is multiplied by this; nothing ever changes it.
-constexpr double kOutputScale = 1.0;
 
 // A void (any polarity but copper) at or below the area limit is dropped unless the given
 // undiscardable flag keeps it; a discarded shape always is.

@@ -6,10 +6,9 @@
 #include "geometry/NodeSet.h"
 #include "ndd/LayoutModel.h"
 #include "qfx/Naming.h"
+#include "qfx/OutputScale.h"
 
 namespace {
-
-constexpr double kOutputScale = 1.0;
 
 bool IsSignalLayer(int32_t layer) {
     return g_model.g_aLayers && layer >= 0 && layer < g_model.g_nLayerCount &&
