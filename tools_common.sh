@@ -1,7 +1,7 @@
 # Shared by run.sh and test.sh: installs what is missing and builds.
 set -euo pipefail
 
-NEEDED_PACKAGES=(g++ cmake make libgtest-dev libgmock-dev libbenchmark-dev)
+NEEDED_PACKAGES=(g++ cmake make ccache libgtest-dev libgmock-dev libbenchmark-dev)
 
 install_missing() {
     local missing=()
@@ -23,6 +23,9 @@ build() {
     shift
     local werror=OFF
     [ "${CI:-}" = "true" ] && werror=ON
-    cmake -S . -B "$dir" -DNDD2QFX_WERROR="$werror" "$@" >/dev/null
+    local launcher=()
+    # A compiler cache makes the second build of a tree (and the sanitizer build) much shorter.
+    command -v ccache >/dev/null 2>&1 && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    cmake -S . -B "$dir" -DNDD2QFX_WERROR="$werror" "${launcher[@]}" "$@" >/dev/null
     cmake --build "$dir" -j "$(nproc)"
 }
