@@ -60,6 +60,8 @@ int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
             g_options.g_nBatchMode = -1;
         } else if (IsOption(a, "b")) {
             if (g_options.g_nBatchMode == 0) g_options.g_nBatchMode = 1;
+        } else if (IsOption(a, "strict")) {
+            g_options.g_bStrictStatus = true;
         } else if (IsOption(a, "log")) {
         } else if (a == "/v" || a == "/V") {
             g_options.g_bVerboseFlag = 1;

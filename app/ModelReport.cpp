@@ -6,6 +6,7 @@
 #include "model/TraceStep.h"
 #include "app/TranslationLog.h"
 #include "model/TranslationOptions.h"
+#include "base/FileChecks.h"
 #include "base/Platform.h"
 #include "model/NodeSet.h"
 #include "ibis/CircuitWriter.h"
@@ -65,16 +66,24 @@ int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
         TraceStep(true, "Cannot open file : %s", outputFile.c_str());
         return 0;
     }
-    ReopenLog(base + ".log");
+    ReopenLog(ModelReportLogPath(outputFile));
     WriteLogHeader();
     WriteAllSections(g_options.g_pOutputFile, models, nodes);
-    std::fclose(g_options.g_pOutputFile);
-    g_options.g_pOutputFile = nullptr;
+    std::string reason;
+    bool written = base::CloseWritten(g_options.g_pOutputFile, reason);
     if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
     g_options.g_pTempLogFile = nullptr;
     base::RemoveFile(base + "temp.log");
     if (outputFile != base) base::RemoveFile(outputFile + "temp.log");
+    if (!written) {
+        ReportWriteFailure(outputFile, reason);
+        return 0;
+    }
     return 1;
+}
+
+std::string ModelReportLogPath(const std::string& outputFile) {
+    return LogBaseName(outputFile) + ".log";
 }
 
 int WriteModelReport() {

@@ -7,10 +7,13 @@
 #include "Version.h"
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
+#include "app/OutputGuard.h"
+#include "app/Usage.h"
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
 #include "app/TranslationDriver.h"
 #include "model/TranslationOptions.h"
+#include "base/FileChecks.h"
 #include "base/Platform.h"
 #include "ndd/NddTokens.h"
 
@@ -34,6 +37,17 @@ std::string InFolder(const std::string& folder, const std::string& name) {
     return folder + base::kSep + name;
 }
 
+bool IsAbsolute(const std::string& path) {
+    return !path.empty() && path[0] == base::kSep;
+}
+
+// "-h", "-help", "--help" and "/?" ask for the usage text, wherever they stand.
+bool IsHelpRequest(const std::string& arg) {
+    for (const char* form : {"-h", "-help", "--help", "/?"})
+        if (EqualsNoCase(arg, form)) return true;
+    return false;
+}
+
 }  // namespace
 
 CNdd2QfxApp::~CNdd2QfxApp() {
@@ -48,6 +62,11 @@ CNdd2QfxApp::~CNdd2QfxApp() {
 // names are made absolute with the current folder.
 void CNdd2QfxApp::DecideFolder(std::string& folder) {
     TranslationOptions& o = g_options;
+    // A relative name means what it means in the shell that started the program: it is
+    // made absolute from the start folder before the working folder moves.
+    for (std::string* name : {&o.g_strCmdLogFile, &o.g_strCmdInputFile, &o.g_strCmdOutputFile})
+        if (!name->empty() && base::HasSeparator(*name) && !IsAbsolute(*name))
+            *name = base::AbsolutePath(InFolder(folder, *name));
     if (!o.g_strCmdLogFile.empty()) {
         if (!base::HasSeparator(o.g_strCmdLogFile)) {
             o.g_strCmdLogFile = InFolder(folder, o.g_strCmdLogFile);
@@ -90,8 +109,7 @@ int CNdd2QfxApp::InitInstance() {
     TraceStep(true, "log file name:%s", o.g_strCmdLogFile.c_str());
     TraceStep(true, "input file name:%s", o.g_strCmdInputFile.c_str());
     TraceStep(true, "output file name:%s", o.g_strCmdOutputFile.c_str());
-    if (o.g_nBatchMode != 0)
-        o.g_pErrorLog = std::fopen(InFolder(folder, "error.log").c_str(), "w+");
+    if (o.g_nBatchMode != 0) OpenErrorLog(folder);
     if (result == kCmdFilesTaken && !o.g_strCmdInputFile.empty() && o.g_strCmdOutputFile.empty())
         o.g_strCmdOutputFile = DefaultOutputName(o.g_strCmdInputFile);
 
@@ -110,7 +128,7 @@ int CNdd2QfxApp::InitInstance() {
         TraceStep(true, "batch mode");
         o.g_strInputFile = o.g_strCmdInputFile;
         o.g_strOutputFile = o.g_strCmdOutputFile;
-        driver.Translate(o.g_strInputFile, o.g_strOutputFile);
+        m_bSucceeded = driver.Translate(o.g_strInputFile, o.g_strOutputFile) != 0;
     } else {
         TraceStep(true, "UI mode");
         std::fprintf(stderr,
@@ -119,8 +137,32 @@ int CNdd2QfxApp::InitInstance() {
         std::fflush(nullptr);
         std::_Exit(kNoDialogStatus);
     }
-    if (o.g_pErrorLog) std::fflush(o.g_pErrorLog);
+    std::string reason;
+    if (!base::CloseWritten(o.g_pErrorLog, reason) && !o.g_bErrorLogFailed) {
+        o.g_bErrorLogFailed = true;
+        std::fprintf(stderr, "Cannot write file : %s (%s)\n", o.g_strErrorLogPath.c_str(),
+                     reason.c_str());
+    }
+    if (o.g_bErrorLogFailed) m_bSucceeded = false;
     return -1;
+}
+
+// error.log is emptied when it is opened: never when it is a file the run is about to read.
+void CNdd2QfxApp::OpenErrorLog(const std::string& folder) {
+    TranslationOptions& o = g_options;
+    o.g_strErrorLogPath = InFolder(folder, "error.log");
+    std::string clash = FindErrorLogClash(o.g_strErrorLogPath);
+    if (!clash.empty()) {
+        ReportMessage(clash);
+        return;
+    }
+    o.g_pErrorLog = std::fopen(o.g_strErrorLogPath.c_str(), "w+");
+}
+
+// The process's status for a run that went to its end: 0 whatever the translation did,
+// unless "-strict" asked for the truth.
+static int FinishedStatus(const CNdd2QfxApp& app) {
+    return g_options.g_bStrictStatus && !app.Succeeded() ? CNdd2QfxApp::kStrictFailureStatus : 0;
 }
 
 int RunProcess(int argc, char** argv) {
@@ -128,6 +170,10 @@ int RunProcess(int argc, char** argv) {
     std::vector<std::string> args(argv, argv + argc);
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& a = args[i];
+        if (IsHelpRequest(a)) {
+            std::fputs(UsageText().c_str(), stdout);
+            return 0;
+        }
         if (a.size() < 2 || (a[0] != '-' && a[0] != '\\')) continue;
         std::string rest = a.substr(1);
         if (EqualsNoCase(rest, "v")) {
@@ -135,21 +181,23 @@ int RunProcess(int argc, char** argv) {
             return 0;
         }
         if (EqualsNoCase(rest, "b")) {
-            int started = 0;
+            int status = 0;
             std::thread runner([&] {
                 CNdd2QfxApp app(args);
-                started = app.InitInstance();
+                int started = app.InitInstance();
                 app.ExitInstance();
+                status = started == 0 ? -1 : FinishedStatus(app);
             });
             runner.join();
-            return started == 0 ? -1 : 0;
+            return status;
         }
     }
-    int started;
+    int status;
     {
         CNdd2QfxApp app(args);
-        started = app.InitInstance();
+        int started = app.InitInstance();
         app.ExitInstance();
+        status = started == 0 ? -2 : FinishedStatus(app);
     }
-    return started == 0 ? -2 : 0;
+    return status;
 }

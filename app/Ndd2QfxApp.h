@@ -17,10 +17,17 @@ class CNdd2QfxApp {
 
     // Status of a run that would open the main dialog, which this build does not have.
     static constexpr int kNoDialogStatus = 2;
+    // Status of a failed batch translation under "-strict".
+    static constexpr int kStrictFailureStatus = 1;
+
+    // False when the batch translation failed.
+    bool Succeeded() const { return m_bSucceeded; }
 
   private:
     void DecideFolder(std::string& folder);
+    void OpenErrorLog(const std::string& folder);
     std::vector<std::string> m_args;
+    bool m_bSucceeded = true;
 };
 
 // Process entry: "-v" prints the name and version; "-b" runs the start routine with no

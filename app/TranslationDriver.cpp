@@ -1,13 +1,16 @@
 #include "app/TranslationDriver.h"
 
+#include <cerrno>
 #include <cstdio>
 
 #include "app/ModelReport.h"
+#include "app/OutputGuard.h"
 #include "model/Progress.h"
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
 #include "app/TranslationLog.h"
 #include "model/TranslationOptions.h"
+#include "base/FileChecks.h"
 #include "base/Platform.h"
 #include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/GapStrokes.h"
@@ -89,20 +92,29 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
     }
     if (!LoadNddInput(inputFile)) {
         ReportMessage("Unable To open The Input NDD File\nPlease Check the Permissions");
+        NoteFileProblem(inputFile, base::LastLoadFailure());
         TraceStep(true, "Unable To open The Input NDD File\nPlease Check the Permissions");
         return 0;
     }
+    // Nothing is opened for writing while a write would land on a file this run reads.
+    std::string clash = FindInputClash(inputFile, outputFile);
+    if (!clash.empty()) return Fail(clash);
     FILE* out = std::fopen(outputFile.c_str(), "w+");
     if (!out) {
+        int error = errno;
         ReportMessage("Cannot open file : " + outputFile);
+        NoteFileProblem(outputFile, base::SystemReason(error));
         TraceStep(true, "Cannot open file : %s", outputFile.c_str());
         return 0;
     }
     g_options.g_pOutputFile = out;
     if (!g_options.g_pLogFile) {
         g_options.g_pLogFile = std::fopen((outputFile + ".log").c_str(), "w");
-        if (!g_options.g_pLogFile)
+        if (!g_options.g_pLogFile) {
+            int error = errno;
             ReportMessage("Cannot open log file : " + outputFile + ".log", kBoxWarning);
+            NoteFileProblem(outputFile + ".log", base::SystemReason(error));
+        }
     }
     if (g_options.g_nQuiet == 0 && g_options.g_strTraceFile.empty() &&
         ReportMessage(kTracesQuestion, kBoxYesNo) == kAnswerYes)
@@ -343,13 +355,19 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     WriteCircuitDescription(out, g_pModelAssignment.get());
     WriteLinkageDescription(out, g_options.g_pLogFile, g_pComponentNodes.get());
     WriteFileEnd(out);
-    std::fclose(out);
-    g_options.g_pOutputFile = nullptr;
+    // The first writing is checked like the second: a deck cut short must never pass for a
+    // finished one.
+    std::string reason;
+    if (!base::CloseWritten(g_options.g_pOutputFile, reason)) {
+        ReportWriteFailure(outputFile, reason);
+        return FailPipeline();
+    }
     if (!WriteModelReport(outputFile, g_pModelAssignment.get(), g_pComponentNodes.get()))
         return FailPipeline();
-
-    if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile);
-    g_options.g_pLogFile = nullptr;
+    if (!base::CloseWritten(g_options.g_pLogFile, reason)) {
+        ReportWriteFailure(ModelReportLogPath(outputFile), reason);
+        return 0;
+    }
     TraceStep(true, "Translation completed");
     ShowStage("Translation completed");
     return 1;

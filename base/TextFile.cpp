@@ -2,10 +2,19 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
 namespace base {
+
+namespace {
+thread_local std::string t_lastFailure;
+}
+
+std::string LastLoadFailure() {
+    return t_lastFailure;
+}
 
 std::string DropCrBeforeLf(std::string raw) {
     size_t out = 0;
@@ -18,16 +27,22 @@ std::string DropCrBeforeLf(std::string raw) {
 }
 
 SharedText LoadTextFile(const std::string& path, LoadStatus* status) {
-    auto set = [&](LoadStatus s) {
+    auto set = [&](LoadStatus s, const char* reason = nullptr) {
         if (status) *status = s;
+        t_lastFailure = reason ? reason : (s == LoadStatus::Ok ? "" : std::strerror(errno));
     };
     struct stat st {};
+    errno = ENOENT;
     if (path.empty() || ::stat(path.c_str(), &st) != 0) {
         set(LoadStatus::Missing);
         return nullptr;
     }
     if (S_ISDIR(st.st_mode)) {
-        set(LoadStatus::IsFolder);
+        set(LoadStatus::IsFolder, std::strerror(EISDIR));
+        return nullptr;
+    }
+    if (!S_ISREG(st.st_mode)) {
+        set(LoadStatus::NotRegular, "Not a regular file");
         return nullptr;
     }
     FILE* f = std::fopen(path.c_str(), "rb");
@@ -40,7 +55,9 @@ SharedText LoadTextFile(const std::string& path, LoadStatus* status) {
     size_t n;
     while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) raw.append(buf, n);
     bool failed = std::ferror(f) != 0;
+    int error = errno;
     std::fclose(f);
+    errno = error;
     if (failed) {
         set(LoadStatus::Unreadable);
         return nullptr;

@@ -11,10 +11,14 @@ namespace base {
 
 using SharedText = std::shared_ptr<const std::string>;
 
-enum class LoadStatus { Ok, Missing, IsFolder, Unreadable };
+enum class LoadStatus { Ok, Missing, IsFolder, NotRegular, Unreadable };
 
-// Loads a whole file in text mode. Returns null and sets status on failure.
+// Loads a whole file in text mode. Only regular files are read: a device or a pipe could
+// feed the reader for ever. Returns null and sets status on failure.
 SharedText LoadTextFile(const std::string& path, LoadStatus* status = nullptr);
+
+// The system's words for the last failure of LoadTextFile on this thread.
+std::string LastLoadFailure();
 
 // Drops each carriage return that stands directly before a line feed.
 std::string DropCrBeforeLf(std::string raw);

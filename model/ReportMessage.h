@@ -17,6 +17,13 @@ int ReportMessage(std::string text, int boxType = kBoxOk, int helpId = 0);
 // newline appended, to error.log when it is open, and to standard error.
 void WriteBatchReport(const std::string& text);
 
+// A batch run adds one line to standard error naming the file and the system's reason
+// ("ndd2qfx: board.ndd: No such file or directory"); error.log keeps only the report itself.
+void NoteFileProblem(const std::string& path, const std::string& reason);
+
+// "Cannot write file : <path> (<reason>)" through ReportMessage.
+void ReportWriteFailure(const std::string& path, const std::string& reason);
+
 // The dialog layer installs the box; without one, a dialog-run message goes to standard error.
 using MessageBoxHandler = int (*)(const std::string& text, int boxType, int helpId);
 void SetMessageBoxHandler(MessageBoxHandler handler);

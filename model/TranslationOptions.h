@@ -76,6 +76,11 @@ struct TranslationOptions {
     std::string g_strOutputFile;
     std::string g_strProgramFolder;
     int32_t g_bVerboseFlag = 0;  // set by "/v"; nothing reads it
+    // "-strict": a failed batch translation ends the process with status 1 instead of 0.
+    bool g_bStrictStatus = false;
+    // Where error.log was opened, and whether a write to it has failed.
+    std::string g_strErrorLogPath;
+    bool g_bErrorLogFailed = false;
 
     // Streams of a run: error.log of a batch run, the output, the translation log and the
     // temporary model log.

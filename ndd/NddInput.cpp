@@ -1,6 +1,7 @@
 #include "ndd/NddInput.h"
 
 #include "model/LayoutModel.h"
+#include "model/ReportMessage.h"
 
 bool LoadNddInput(const std::string& path, base::LoadStatus* status) {
     g_model.inputText = base::LoadTextFile(path, status);
@@ -21,7 +22,12 @@ std::unique_ptr<base::LineStream> OpenNdd(const std::string& path) {
 }
 
 std::unique_ptr<base::LineStream> OpenTextFile(const std::string& path) {
-    base::SharedText text = base::LoadTextFile(path);
-    if (!text) return nullptr;
+    base::LoadStatus status = base::LoadStatus::Ok;
+    base::SharedText text = base::LoadTextFile(path, &status);
+    if (!text) {
+        // A side file that is simply absent has its own handling; anything else is news.
+        if (status != base::LoadStatus::Missing) NoteFileProblem(path, base::LastLoadFailure());
+        return nullptr;
+    }
     return std::make_unique<base::LineStream>(std::move(text));
 }
