@@ -5,37 +5,26 @@
 #include <string>
 #include <vector>
 
+#include "RecordingHost.h"
 #include "TestSupport.h"
-#include "model/ReportMessage.h"
 #include "app/TranslationDriver.h"
+#include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
 
 namespace {
 
 using namespace testing_support;
 
-class StageRecorder : public TranslationDriver {
-  public:
-    std::vector<std::string> stages;
-
-  protected:
-    void OnStage(const std::string& text) override { stages.push_back(text); }
-};
-
-int AnswerNo(const std::string&, int, int) {
-    return kAnswerNo;
-}
-
 class VoidCheckPipelineTest : public ::testing::Test {
   protected:
     void SetUp() override {
         ResetGlobals();
-        SetMessageBoxHandler(AnswerNo);  // a dialog run that declines the traces question
+        host.answer = false;  // a dialog run that declines the traces question
         WriteFile(dir.File("board.ndd"), ReadFile(NDD2QFX_SOURCE_DIR "/examples/board.ndd"));
     }
-    void TearDown() override { SetMessageBoxHandler(nullptr); }
     std::string Translate() {
-        EXPECT_NE(driver.Translate(dir.File("board.ndd"), dir.File("board.qfx")), 0);
+        EXPECT_EQ(driver.Translate(dir.File("board.ndd"), dir.File("board.qfx")),
+                  TranslateStatus::Done);
         return ReadFile(dir.File("board.qfx"));
     }
     // The lines of the section ".Shape Shape$<layer>", without its first and last line.
@@ -55,7 +44,8 @@ class VoidCheckPipelineTest : public ::testing::Test {
         return out;
     }
     ScratchDir dir;
-    StageRecorder driver;
+    RecordingHost host;
+    TranslationDriver driver{host};
 };
 
 TEST_F(VoidCheckPipelineTest, AnUndiscardableVoidOpeningItsSectionKeepsTheSmallVoids) {
@@ -76,9 +66,8 @@ TEST_F(VoidCheckPipelineTest, AnUndiscardableVoidOpeningItsSectionKeepsTheSmallV
     const std::vector<std::string> expected = {"Writing PKG header ...",
                                                "Check Undiscardable Void Shapes ...",
                                                "Writing Via Info...", "Writing Shape Info..."};
-    auto at =
-        std::search(driver.stages.begin(), driver.stages.end(), expected.begin(), expected.end());
-    EXPECT_NE(at, driver.stages.end());
+    auto at = std::search(host.stages.begin(), host.stages.end(), expected.begin(), expected.end());
+    EXPECT_NE(at, host.stages.end());
 }
 
 TEST_F(VoidCheckPipelineTest, WithoutVoidOptionsTheCheckDoesNotRun) {
@@ -86,9 +75,8 @@ TEST_F(VoidCheckPipelineTest, WithoutVoidOptionsTheCheckDoesNotRun) {
     g_options.g_bTranslateVias = 0;
     const std::string qfx = Translate();
     const std::vector<std::string> expected = {"Writing PKG header ...", "Writing Shape Info..."};
-    auto at =
-        std::search(driver.stages.begin(), driver.stages.end(), expected.begin(), expected.end());
-    EXPECT_NE(at, driver.stages.end());
+    auto at = std::search(host.stages.begin(), host.stages.end(), expected.begin(), expected.end());
+    EXPECT_NE(at, host.stages.end());
     EXPECT_EQ(Section(qfx, "TOP").size(), 9u);  // nothing is dropped
 }
 

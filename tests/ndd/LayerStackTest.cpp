@@ -5,30 +5,20 @@
 #include <string>
 #include <vector>
 
+#include "RecordingHost.h"
 #include "TestSupport.h"
-#include "model/ReportMessage.h"
-#include "model/TranslationOptions.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 
 using namespace testing_support;
 
 namespace {
 
-std::vector<std::string> g_messages;
-int CaptureBox(const std::string& text, int, int) {
-    g_messages.push_back(text);
-    return 1;
-}
-
 class LayerStackTest : public ::testing::Test {
   protected:
-    void SetUp() override {
-        ResetGlobals();
-        g_messages.clear();
-        SetMessageBoxHandler(&CaptureBox);
-    }
-    void TearDown() override { SetMessageBoxHandler(nullptr); }
+    void SetUp() override { ResetGlobals(); }
 
     int Parse(const std::string& text) { return ParseLayer(dir_.Write("board.ndd", text)); }
     const LayerRec& Layer(int i) const { return g_model.g_aLayers[i]; }
@@ -38,6 +28,8 @@ class LayerStackTest : public ::testing::Test {
     }
 
     ScratchDir dir_;
+    RecordingHost host_;
+    HostScope hostScope_{host_};
 };
 
 const char kStack[] =
@@ -176,8 +168,8 @@ TEST_F(LayerStackTest, A257thLayerStopsWithAMessageAndNoOverrun) {
     EXPECT_EQ(Parse(text), 0);
     EXPECT_EQ(g_model.g_nLayerCount, 256);
     EXPECT_EQ(LayerName(Layer(255)), "L255");
-    ASSERT_EQ(g_messages.size(), 1u);
-    EXPECT_EQ(g_messages[0],
+    ASSERT_EQ(host_.messages.size(), 1u);
+    EXPECT_EQ(host_.messages[0],
               "The layer stack of the NDD file has more than 256 layers.\nThe translation is "
               "stopped.");
 }
@@ -187,7 +179,7 @@ TEST_F(LayerStackTest, ExactlyTheFullTableIsAccepted) {
     for (int i = 0; i < 256; ++i) text += "%dielectric \"D\" \"x\" \"FR4\" 1;\n";
     EXPECT_EQ(Parse(text), 1);
     EXPECT_EQ(g_model.g_nLayerCount, 256);
-    EXPECT_TRUE(g_messages.empty());
+    EXPECT_TRUE(host_.messages.empty());
 }
 
 TEST_F(LayerStackTest, AMissingFileLeavesAnEmptyTable) {

@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "RecordingHost.h"
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 #include "model/Progress.h"
 #include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
-#include "model/LayoutModel.h"
 
 namespace {
 
@@ -199,8 +200,9 @@ TEST(ParseArcTrace, ArcBecomesTwoHalvesMeetingAtItsMiddlePoint) {
 
 TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {
     MakeBoard();
-    std::vector<int> positions;
-    SetProgressHandler([&](int position) { positions.push_back(position); });
+    RecordingHost host;
+    HostScope hostScope(host);
+    std::vector<int>& positions = host.positions;
     std::string text = "%port \"X\" \"CLK\";\n";
     for (int i = 0; i < 302; ++i) text += "%trace \"TOP\" 1 0 0 1 1 \"CLK\";\n";
     ScratchDir dir;
@@ -211,7 +213,6 @@ TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {
     g_options.g_nQuiet = 1;  // a batch run has no progress bar
     ASSERT_EQ(ParseTrace(path, 0), 1);
     EXPECT_TRUE(positions.empty());
-    SetProgressHandler(nullptr);
 }
 
 TEST(ParseTrace, MissingInputFailsThePass) {
