@@ -94,76 +94,6 @@ TEST(ModelReport, SecondWritingReplacesTheFirstAndIgnoresTheElementSwitches) {
     EXPECT_EQ(g_options.g_pOutputFile, nullptr);
 }
 
-// An output without the QFX extension keeps the first writing under its own name while the
-// second writing goes to the name with ".QFX" added, so the two can be compared: every writer
-// must print the same text when it runs the second time.
-TEST(ModelReport, SecondWritingEqualsTheFirstForABoardWithoutComponents) {
-    ScratchDir dir;
-    std::string input = dir.Write("board.ndd", kBoard);
-    std::string output = dir.File("out.txt");
-    StartBatchRun();
-    ASSERT_EQ(Translate(input, output), 1);
-    std::string first = ReadFile(output);
-    std::string second = ReadFile(output + ".QFX");
-    EXPECT_NE(first.find("Signal$TOP "), std::string::npos) << first;
-    EXPECT_NE(first.find("\nNode"), std::string::npos) << first;
-    EXPECT_NE(first.find("\nTrace"), std::string::npos) << first;
-    EXPECT_EQ(second, first);
-    // The log follows the run's own output name.
-    EXPECT_TRUE(base::PathExists(output + ".log"));
-    EXPECT_FALSE(base::PathExists(output + ".QFX.log"));
-}
-
-TEST(ModelReport, OutputThatCannotBeOpenedFailsWithNothingWritten) {
-    ScratchDir dir;
-    std::string input = dir.Write("board.ndd", kBoard);
-    dir.Write("blocker", "a file where a folder should be\n");
-    std::string output = dir.File("blocker/out.qfx");
-    StartBatchRun();
-    EXPECT_EQ(Translate(input, output), 0);
-    EXPECT_EQ(Reports(), "Cannot open file : " + output + "\n");
-    EXPECT_FALSE(base::PathExists(output));
-    EXPECT_FALSE(base::PathExists(output + ".log"));
-    EXPECT_EQ(ReadFile(dir.File("blocker")), "a file where a folder should be\n");
-}
-
-TEST(ModelReport, LogThatCannotBeWrittenIsReportedAndTheRunGoesOn) {
-    ScratchDir dir;
-    std::string input = dir.Write("board.ndd", kBoard);
-    std::string output = dir.File("out.qfx");
-    ASSERT_EQ(::mkdir((output + ".log").c_str(), 0755), 0);
-    StartBatchRun();
-    EXPECT_EQ(Translate(input, output), 1);
-    EXPECT_EQ(Reports(), "Cannot open log file : " + output + ".log\n");
-    EXPECT_TRUE(base::IsFolder(output + ".log"));
-    std::string text = ReadFile(output);
-    ASSERT_GE(text.size(), 5u);
-    EXPECT_EQ(text.substr(text.size() - 5), ".End\n");
-}
-
-TEST(ModelReport, BatchRunReportsAnUnwritableLogInErrorLog) {
-    ScratchDir dir;
-    dir.Write("board.ndd", kBoard);
-    ASSERT_EQ(::mkdir(dir.File("out.qfx.log").c_str(), 0755), 0);
-    std::string err;
-    EXPECT_EQ(RunProgram(dir.Path(), {"-NoUI", "board.ndd", "out.qfx"}, &err), 0);
-    EXPECT_EQ(ReadFile(dir.File("error.log")),
-              "Cannot open log file : " + dir.File("out.qfx") + ".log\n");
-    EXPECT_TRUE(base::PathExists(dir.File("out.qfx")));
-}
-
-TEST(ModelReport, BatchRunIntoAFileInsteadOfAFolderReportsTheOutput) {
-    ScratchDir dir;
-    dir.Write("board.ndd", kBoard);
-    dir.Write("blocker", "x");
-    std::string err;
-    RunProgram(dir.Path(), {"-NoUI", dir.File("board.ndd"), dir.File("blocker/out.qfx")}, &err);
-    EXPECT_NE(err.find("Cannot open file : " + dir.File("blocker/out.qfx") + "\n"),
-              std::string::npos)
-        << err;
-    EXPECT_FALSE(base::PathExists(dir.File("blocker/out.qfx")));
-}
-
 // Runs the program on the log of a finished translation and expects the same output and,
 // but for the date, the same log.
 void ExpectLogRerunGivesTheSameFiles(const ScratchDir& dir, const std::string& output) {
@@ -229,49 +159,5 @@ TEST(ModelReport, ExampleBoardRerunFromItsLogIsIdentical) {
     ExpectLogRerunGivesTheSameFiles(dir, output);
 }
 
-TEST(ModelReport, LogOnTheCommandLineRestoresPathsAndSettings) {
-    ScratchDir dir;
-    dir.Write("board.ndd", kBoard);
-    dir.Write("prev.log",
-              "Ndd2Qfx Version 1.0.0.1\n"
-              "From file : board.ndd\n"
-              "To file : result.qfx\n"
-              "\nNets Translated : \n\tDATA\tred\n"
-              "\nSettings :\n\tName affix : Z9\n\tUnion traces shorter than 0.500000 mm\n");
-    std::string err;
-    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", "prev.log"}, &err), 0) << err;
-    std::string log = ReadFile(dir.File("result.qfx.log"));
-    EXPECT_NE(log.find("From file : " + dir.File("board.ndd") +
-                       "\nTo file : " + dir.File("result.qfx") + "\n"),
-              std::string::npos)
-        << log;
-    // The log chose DATA; its colour follows the net table (CLK 0, DATA 1: green).
-    EXPECT_NE(log.find("\nNets Translated : \n\tDATA\tgreen\n\nSettings :\n"), std::string::npos);
-    EXPECT_NE(log.find("\tUnion traces shorter than 0.500000 mm\n"), std::string::npos);
-    EXPECT_NE(log.find("\tName affix : Z9\n"), std::string::npos);
-    EXPECT_TRUE(base::PathExists(dir.File("result.qfx")));
-}
-
-TEST(ModelReport, BatchRunWithAFileThatIsNoLogTranslatesNothing) {
-    ScratchDir dir;
-    dir.Write("notes.log", "shopping list\n");
-    std::string err;
-    EXPECT_EQ(RunProgram(dir.Path(), {"-NoUI", "notes.log"}, &err), 0);
-    EXPECT_EQ(ReadFile(dir.File("error.log")), "The file :\n" + dir.File("notes.log") +
-                                                   "\nis not Ndd2Qfx translation log file\n"
-                                                   "Please specify a NDD file\n");
-}
-
-TEST(ModelReport, LogBeforeTheFileNamesKeepsThoseNames) {
-    ScratchDir dir;
-    dir.Write("board.ndd", kBoard);
-    dir.Write("prev.log", "Ndd2Qfx Version 1.0.0.1\n\nSettings :\n\tName affix : Q\n");
-    std::string err;
-    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", "prev.log", "board.ndd", "named.qfx"}, &err), 0)
-        << err;
-    std::string log = ReadFile(dir.File("named.qfx.log"));
-    EXPECT_NE(log.find("\tName affix : Q\n"), std::string::npos) << log;
-    EXPECT_NE(log.find("\tAll nets are selected\n\tCLK\tred\n\tDATA\tgreen\n"), std::string::npos);
-}
 
 }  // namespace

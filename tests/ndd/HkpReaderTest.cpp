@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
+#include "Fixtures.h"
 #include "app/TranslationOptions.h"
 #include "ndd/LayoutModel.h"
 
@@ -18,9 +18,9 @@ class HkpReaderTest : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        testing_support::MakeLayerStack(
+        fixtures::MakeLayerStack(
             {{"layer_1", kLayerSignal}, {"D1", kLayerDielectric}, {"layer_2", kLayerPlane}});
-        testing_support::MakeNets({"GND", "VCC"});
+        fixtures::MakeNets({"GND", "VCC"});
     }
 
     void Read(const std::string& text) {

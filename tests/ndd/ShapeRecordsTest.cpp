@@ -5,13 +5,13 @@
 #include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
-#include "geometry/ShapeFixtures.h"
+#include "Fixtures.h"
 #include "ndd/BoardOutline.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"
 
-using namespace shape_fixtures;
+using namespace fixtures;
 
 namespace {
 
@@ -25,7 +25,7 @@ class ShapeRecords : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        SetUpLayers({"TOP", "GND"});
+        fixtures::MakeSignalLayers({"TOP", "GND"});
         g_model.g_dbLengthScale = 1.0;
     }
     // Reads text (after the common head) with the net table and the shape pass.
@@ -186,9 +186,9 @@ TEST_F(ShapeRecords, BoardOutlineFromALinePathOrAPolygon) {
 TEST_F(ShapeRecords, GapStrokesFollowPolygonsOnPlaneLayersOnly) {
     g_model.g_mapLayerKind.Set("TOP", "S");
     g_model.g_mapLayerKind.Set("GND", "P");
-    AddPolygon(1, 0, kPolarityCopper, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
-    AddPolygon(0, 0, kPolarityCopper, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
-    AddCircle(1, 0, 1, 1, 1);
+    AddPolygon(1, kPolarityCopper, 0, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
+    AddPolygon(0, kPolarityCopper, 0, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
+    AddCircle(1, kPolarityCopper, 0, 1, 1, 1);
     AddGapStrokesOnPlaneLayers(0.2);
     // Three edges on GND, each a circle and a rectangle.
     ASSERT_EQ(3 + 6, g_model.ShapeCount());

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "ShapeTestSupport.h"
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
+
 #include "app/TranslationOptions.h"
 #include "geometry/CheckUndiscardableVoids.h"
 #include "qfx/ShapeWriter.h"
@@ -14,6 +14,7 @@
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // Four conductor layers L1..L4 at indices 0, 2, 4, 6; nets GND (0, red) and N1 (1, green).
 class MakeViasTest : public ::testing::Test {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
+#include "Fixtures.h"
 #include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
@@ -13,6 +13,7 @@
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // The writing steps of a translation after the traces were read.
 void SettleNodes() {
