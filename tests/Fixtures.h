@@ -2,6 +2,7 @@
 // Boards built by hand for the unit tests: layer stacks, net tables, shapes and traces, made
 // the way the readers make them.
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -94,6 +95,26 @@ inline std::vector<ShapePoint> PointsOf(int32_t i) {
     const ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(i)];
     auto first = g_model.g_aShapePoints.begin() + s.firstPoint;
     return std::vector<ShapePoint>(first, first + s.pointCount);
+}
+
+// Every shape as one line: "L<layer> N<net> <C|P><+|-|s> x,y x,y ...", points printed with
+// %g, polarity + copper, - void, s split off; circles give their centre and radius pair.
+inline std::string ShapesAsText() {
+    std::string text;
+    for (int32_t i = 0; i < g_model.ShapeCount(); ++i) {
+        const ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(i)];
+        char buf[64];
+        std::snprintf(buf, sizeof buf, "L%d N%d %c%c", s.layer, s.net,
+                      s.geometry == kGeometryCircle ? 'C' : 'P',
+                      s.polarity == kPolarityCopper ? '+' : s.polarity == kPolarityVoid ? '-' : 's');
+        text += buf;
+        for (const ShapePoint& p : PointsOf(i)) {
+            std::snprintf(buf, sizeof buf, " %g,%g", p.x, p.y);
+            text += buf;
+        }
+        text += '\n';
+    }
+    return text;
 }
 
 // A trace between two new nodes, made as the trace reader makes them.

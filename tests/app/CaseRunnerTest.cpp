@@ -141,7 +141,15 @@ TEST_P(CaseRun, GivesTheExpectedFiles) {
     std::string out, err;
     std::vector<std::string> runs = SplitLines(CaseFile("run"));
     ASSERT_FALSE(runs.empty()) << "a case needs a run file";
-    for (const std::string& line : runs) RunLine(line, out, err);
+    for (const std::string& line : runs) {
+        std::istringstream words(line);
+        std::string first, from, to;
+        words >> first >> from >> to;
+        if (first == "cp")  // keeps a file of one run from the next
+            fs::copy_file(run_ + "/" + from, run_ + "/" + to);
+        else
+            RunLine(line, out, err);
+    }
     CheckResults(out, err);
 }
 

@@ -1,7 +1,6 @@
 #include "app/ModelReport.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "TestSupport.h"
 #include "app/TranslationDriver.h"
@@ -49,13 +48,6 @@ size_t Count(const std::string& text, const std::string& part) {
     return n;
 }
 
-// The log without its date line, which differs from run to run.
-std::vector<std::string> LogWithoutDate(const std::string& path) {
-    std::vector<std::string> lines = SplitLines(ReadFile(path));
-    if (lines.size() > 3) lines.erase(lines.begin() + 3);
-    return lines;
-}
-
 TEST(ModelReport, SecondWritingReplacesTheFirstAndIgnoresTheElementSwitches) {
     ScratchDir dir;
     std::string input = dir.Write("board.ndd", kBoard);
@@ -93,71 +85,5 @@ TEST(ModelReport, SecondWritingReplacesTheFirstAndIgnoresTheElementSwitches) {
     EXPECT_EQ(g_options.g_pLogFile, nullptr);
     EXPECT_EQ(g_options.g_pOutputFile, nullptr);
 }
-
-// Runs the program on the log of a finished translation and expects the same output and,
-// but for the date, the same log.
-void ExpectLogRerunGivesTheSameFiles(const ScratchDir& dir, const std::string& output) {
-    std::string firstQfx = ReadFile(output);
-    std::vector<std::string> firstLog = LogWithoutDate(output + ".log");
-    dir.Write("saved.log", ReadFile(output + ".log"));
-    ResetGlobals();
-    std::string err;
-    ASSERT_EQ(RunProgram(dir.Path(), {"-NoUI", dir.File("saved.log")}, &err), 0) << err;
-    EXPECT_EQ(ReadFile(dir.File("error.log")), "");
-    EXPECT_EQ(ReadFile(output), firstQfx);
-    EXPECT_EQ(LogWithoutDate(output + ".log"), firstLog);
-}
-
-TEST(ModelReport, LoadedLogReproducesTheTranslationByteForByte) {
-    ScratchDir dir;
-    std::string input = dir.Write("board.ndd", kBoard);
-    std::string output = dir.File("first.qfx");
-
-    StartBatchRun();
-    TranslationOptions& o = g_options;
-    o.g_strNameAffix = "AB";
-    o.g_bExcludeVoidEnclosingVia = 1;
-    o.g_dbViaVoidArea = 3.0;
-    o.g_dbVoidAreaLimit = 0.5;
-    o.g_dbTraceUnionLength = 0.25;
-    o.g_dbMaxArcLength = 0.1;
-    o.g_strTraceGapPercent = "20";
-    o.g_strValueFieldName = "VAL";
-    o.g_nIncludeNoNetEtches = 1;
-    o.g_bSpatialLimit = 1;
-    o.g_dbSpatialMinX = -1.0;
-    o.g_dbSpatialMinY = -2.0;
-    o.g_dbSpatialMaxX = 100.0;
-    o.g_dbSpatialMaxY = 200.0;
-    o.g_nSelectedNetCount = 2;
-    o.g_pSelectedNets = {2, 0};  // GND, CLK
-    ASSERT_EQ(Translate(input, output), 1);
-    ExpectLogRerunGivesTheSameFiles(dir, output);
-    // The settings did reach the log of both runs.
-    std::string log = ReadFile(output + ".log");
-    // Net colours follow the net table: CLK 0 red, DATA 1 green, GND 2 blue.
-    EXPECT_NE(log.find("\tGND\tblue\n\tCLK\tred\n"), std::string::npos) << log;
-    EXPECT_NE(log.find("\tName affix : AB\n"), std::string::npos);
-    EXPECT_NE(log.find("\tExclude void shapes enclosing vias with area less than 3.000000 mm x "
-                       "mm\n"),
-              std::string::npos);
-}
-
-TEST(ModelReport, ExampleBoardRerunFromItsLogIsIdentical) {
-    ScratchDir dir;
-    std::string input =
-        dir.Write("board.ndd", ReadFile(std::string(NDD2QFX_SOURCE_DIR) + "/examples/board.ndd"));
-    std::string output = dir.File("board.qfx");
-    StartBatchRun();
-    g_options.g_strNameAffix = "EX";
-    g_options.g_strTraceGapPercent = "20";
-    g_options.g_dbMaxArcLength = 0.05;
-    g_options.g_dbTraceUnionLength = 0.01;
-    g_options.g_nIncludeNoNetEtches = 1;
-    ASSERT_EQ(Translate(input, output), 1);
-    ASSERT_NE(ReadFile(output).find("Signal$EX"), std::string::npos);
-    ExpectLogRerunGivesTheSameFiles(dir, output);
-}
-
 
 }  // namespace
