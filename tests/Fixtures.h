@@ -106,7 +106,9 @@ inline std::string ShapesAsText() {
         char buf[64];
         std::snprintf(buf, sizeof buf, "L%d N%d %c%c", s.layer, s.net,
                       s.geometry == kGeometryCircle ? 'C' : 'P',
-                      s.polarity == kPolarityCopper ? '+' : s.polarity == kPolarityVoid ? '-' : 's');
+                      s.polarity == kPolarityCopper ? '+'
+                      : s.polarity == kPolarityVoid ? '-'
+                                                    : 's');
         text += buf;
         for (const ShapePoint& p : PointsOf(i)) {
             std::snprintf(buf, sizeof buf, " %g,%g", p.x, p.y);

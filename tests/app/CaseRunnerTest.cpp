@@ -83,7 +83,8 @@ class CaseRun : public ::testing::TestWithParam<std::string> {
                 want.push_back(block[i]);
             for (const std::string& line : actual) {
                 std::smatch m;
-                if (std::regex_search(line, m, select)) got.push_back(m.size() > 1 ? m[1] : m[0]);
+                if (std::regex_search(line, m, select))
+                    got.push_back(m.size() > 1 ? m[1].str() : line);
             }
             EXPECT_EQ(got, want) << expected << " selected by " << pattern;
         }

@@ -45,7 +45,8 @@ TEST(CommandLine, NamesOptionsAndResults) {
         std::vector<std::string> args;
         Parsed want;
     } rows[] = {
-        {{"-NoUI", "  a.NDD ", "b.qfx", "20"}, {kCmdFilesTaken, "", "~/a.NDD", "b.qfx", "", "", -1}},
+        {{"-NoUI", "  a.NDD ", "b.qfx", "20"},
+         {kCmdFilesTaken, "", "~/a.NDD", "b.qfx", "", "", -1}},
         {{"dir\\prev.LOG", "in.ndd", "out.qfx"},
          {kCmdFilesTaken, "~/dir/prev.LOG", "in.ndd", "out.qfx", "", "", 0}},
         {{"-NoUI", "-b", "a.ndd"}, {kCmdFilesTaken, "", "~/a.ndd", "", "", "", -1}},

@@ -96,7 +96,8 @@ TEST(TranslationLog, LogWarningAppendsTheTextAsItStands) {
 TEST(TranslationLog, ModelReportListsComponentsInMapOrder) {
     ResetGlobals();
     auto report = [] { return CaptureOutput([](FILE* f) { WriteModelReportLines(f); }); };
-    EXPECT_EQ(report(), "\n\nComponent Model Info :\n\n\nTotal No Of Components in Design File = 0\n");
+    EXPECT_EQ(report(),
+              "\n\nComponent Model Info :\n\n\nTotal No Of Components in Design File = 0\n");
     ComponentRec r1, u1;
     r1.refDes = "R1";
     r1.value = "10K";

@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/CleanPolygon.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeCleanupRound.h"
-#include "Fixtures.h"
 #include "geometry/SortShapes.h"
 #include "ndd/FinishShapes.h"
 
@@ -89,63 +89,53 @@ TEST_F(Cleanup, RectangleLosesItsMidEdgePoint) {
     ExpectPoints({{0, 0}, {0, 4}, {3, 4}, {3, 0}}, 0);
 }
 
-// Copper square 0..10 of net 1 and a neighbour 10..20 that shares its right edge.
-void AddNeighbours(int32_t net2, int32_t polarity2) {
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {10, 0}, {10, 10}, {0, 10}});
-    AddPolygon(0, polarity2, net2, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-}
-
-TEST_F(Cleanup, SplitPieceAndCopperSharingAnEdgeBothMoveInward) {
-    AddNeighbours(1, kPolaritySplit);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
-}
-
-TEST_F(Cleanup, CopperOfTwoNetsSharingAnEdgeBothMoveInward) {
-    AddNeighbours(2, kPolarityCopper);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
-}
-
-TEST_F(Cleanup, VoidNeverMovesButMarksTheCopperEdgeItTouches) {
-    AddNeighbours(1, kPolarityVoid);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
-}
-
-TEST_F(Cleanup, TwoFillsOfOneNetSharingAnEdgeAreLeftAlone) {
-    AddNeighbours(1, kPolarityCopper);
-    ExpectPoints({{0, 0}, {10, 0}, {10, 10}, {0, 10}}, 0);
-    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
-}
-
-TEST_F(Cleanup, ClockwiseRingMovesIntoItselfToo) {
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {0, 10}, {10, 10}, {10, 0}});
-    AddPolygon(0, kPolarityCopper, 2, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {0, 10}, {9.9, 10}, {9.9, 0}}, 0);
-}
-
-TEST_F(Cleanup, NarrowNeighbourEdgesLimitTheMoveToTheirMidpoints) {
-    // A sliver 0.1 wide on top: its short sides stop the moved edge at their midpoints.
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {10, 0}, {10, 0.1}, {0, 0.1}});
-    AddPolygon(0, kPolarityCopper, 2, {{0, 0.1}, {10, 0.1}, {10, 5}, {0, 5}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {10, 0}, {10, 0.05}, {0, 0.05}}, 0);
-    ExpectPoints({{0, 0.2}, {10, 0.2}, {10, 5}, {0, 5}}, 1);
-}
-
-TEST_F(Cleanup, FlatLayerHasNoGridAndNothingMoves) {
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {0, 5}, {0, 10}});
-    AddPolygon(0, kPolarityCopper, 2, {{0, 10}, {0, 5}, {0, 0}});
-    SetLayerExtents();
+// Two shapes sharing an edge on one layer, after the edge separation (see ShapesAsText): copper
+// of another net or a split piece moves inward by 0.1, a void never moves but makes the copper
+// move, two fills of one net stay; a narrow neighbour limits the move to its edges' midpoints.
+TEST_F(Cleanup, TouchingEdgesMoveApart) {
+    using Points = std::vector<ShapePoint>;
+    const Points square{{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+    const Points right{{10, 0}, {20, 0}, {20, 10}, {10, 10}};
+    const struct {
+        Points first;
+        int32_t net2, polarity2;
+        Points second;
+        const char* shapes;
+    } rows[] = {
+        {square, 1, kPolaritySplit, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N1 Ps 10.1,0 20,0 20,10 10.1,10\n"},
+        {square, 2, kPolarityCopper, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N2 P+ 10.1,0 20,0 20,10 10.1,10\n"},
+        {square, 1, kPolarityVoid, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N1 P- 10,0 20,0 20,10 10,10\n"},
+        {square, 1, kPolarityCopper, right,
+         "L0 N1 P+ 0,0 10,0 10,10 0,10\nL0 N1 P+ 10,0 20,0 20,10 10,10\n"},
+        {{{0, 0}, {0, 10}, {10, 10}, {10, 0}},
+         2,
+         kPolarityCopper,
+         right,
+         "L0 N1 P+ 0,0 0,10 9.9,10 9.9,0\nL0 N2 P+ 10.1,0 20,0 20,10 10.1,10\n"},
+        {{{0, 0}, {10, 0}, {10, 0.1}, {0, 0.1}},
+         2,
+         kPolarityCopper,
+         {{0, 0.1}, {10, 0.1}, {10, 5}, {0, 5}},
+         "L0 N1 P+ 0,0 10,0 10,0.05 0,0.05\nL0 N2 P+ 0,0.2 10,0.2 10,5 0,5\n"},
+        // A flat layer has no grid: nothing moves.
+        {{{0, 0}, {0, 5}, {0, 10}},
+         2,
+         kPolarityCopper,
+         {{0, 10}, {0, 5}, {0, 0}},
+         "L0 N1 P+ 0,0 0,5 0,10\nL0 N2 P+ 0,10 0,5 0,0\n"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        AddPolygon(0, kPolarityCopper, 1, row.first);
+        AddPolygon(0, row.polarity2, row.net2, row.second);
+        SetLayerExtents();
+        SeparateTouchingEdges();
+        EXPECT_EQ(ShapesAsText(), row.shapes);
+    }
     EXPECT_EQ(0.0, g_model.g_aLayers[0].gridX);
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {0, 5}, {0, 10}}, 0);
 }
 
 TEST_F(Cleanup, SortPutsCopperFirstOnEqualAreasWithinALayer) {

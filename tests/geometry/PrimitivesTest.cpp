@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/EdgesOverlap.h"
 #include "geometry/EquivalentRadius.h"
@@ -10,7 +11,6 @@
 #include "geometry/SegmentRectangle.h"
 #include "geometry/ShapeArea.h"
 #include "geometry/ShapeBoxes.h"
-#include "Fixtures.h"
 
 using namespace fixtures;
 

@@ -7,8 +7,8 @@
 #include <random>
 #include <stdexcept>
 
-#include "TestSupport.h"
 #include "Fixtures.h"
+#include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "TestSupport.h"
 #include "Fixtures.h"
+#include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "ndd/LayoutModel.h"
 
@@ -48,8 +48,9 @@ TEST_F(HkpReaderTest, AreasGiveTheseShapes) {
         {"a rectangle; LYR_1 names layer_1", std::string(".UNITS MM\n.NET \"GND\"\n") + kRectArea,
          "L0 N0 P+ 1,2 3,2 3,4 1,4 1,2\n"},
         // Thousandths of an inch; nanometres keep their odd factor; an unknown word keeps it.
-        {"units", std::string(".UNITS TH\n.NET GND\n") + kRectArea + ".UNITS nm\n" + kRectArea +
-                      ".UNITS furlong\n" + kRectArea,
+        {"units",
+         std::string(".UNITS TH\n.NET GND\n") + kRectArea + ".UNITS nm\n" + kRectArea +
+             ".UNITS furlong\n" + kRectArea,
          "L0 N0 P+ 0.0254,0.0508 0.0762,0.0508 0.0762,0.1016 0.0254,0.1016 0.0254,0.0508\n"
          "L0 N0 P+ 1e-09,2e-09 3e-09,2e-09 3e-09,4e-09 1e-09,4e-09 1e-09,2e-09\n"
          "L0 N0 P+ 1e-09,2e-09 3e-09,2e-09 3e-09,4e-09 1e-09,4e-09 1e-09,2e-09\n"},
@@ -61,7 +62,8 @@ TEST_F(HkpReaderTest, AreasGiveTheseShapes) {
          "  ...CONDUCTIVE_AREA_OPTIONS CONDUCTIVE_SHAPE\n   ....POLYLINE_SHAPE\n"
          "    .....XY (7, 7)\n     (8, 7)\n",
          "L2 N1 P+ 0,0 4,0 4,4\nL0 N1 P+ 7,7 8,7\n"},
-        {"a net with no name gives no areas", std::string(".NET \n") + kRectArea + ".NET \"\"\n" + kRectArea, ""},
+        {"a net with no name gives no areas",
+         std::string(".NET \n") + kRectArea + ".NET \"\"\n" + kRectArea, ""},
         {"an unknown route layer gives layer -1",
          ".NET GND\n..CONDUCTIVE_AREA\n...ROUTE_LYR LYR_9\n...CONDUCTIVE_AREA_OPTIONS "
          "CONDUCTIVE_SHAPE\n....RECT_SHAPE\n.....XY (1, 2) (3, 4)\n",
@@ -122,7 +124,7 @@ TEST_F(HkpReaderTest, MalformedFilesNeverCrashOrHang) {
     Read(
         ".NET GND\n..CONDUCTIVE_AREA\n...CONDUCTIVE_AREA_OPTIONS CONDUCTIVE_SHAPE\n"
         "....RECT_SHAPE\n.....XY\n...ROUTE_LYR\n.UNITS\n.NET\n");
-    EXPECT_EQ(fixtures::ShapesAsText(), "L0 N0 P+ 0,0 0,0 0,0 0,0 0,0\n");
+    EXPECT_EQ(fixtures::ShapesAsText(), "L-1 N0 P+ 0,0 0,0 0,0 0,0 0,0\n");
     std::string noise(".NET GND\n..CONDUCTIVE_AREA\n");
     for (int i = 0; i < 70000; ++i) noise += static_cast<char>((i * 7919 + i / 13) % 256);
     Read(noise);

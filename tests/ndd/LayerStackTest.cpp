@@ -83,7 +83,8 @@ TEST_F(LayerStackTest, LookupsByNameKindAndIdentifier) {
 
 TEST_F(LayerStackTest, A257thLayerStopsWithAMessage) {
     std::string text;
-    for (int i = 0; i < 257; ++i) text += "%signal \"L" + std::to_string(i) + "\" \"1\" \"x\" 1 \"CU\";\n";
+    for (int i = 0; i < 257; ++i)
+        text += "%signal \"L" + std::to_string(i) + "\" \"1\" \"x\" 1 \"CU\";\n";
     EXPECT_EQ(Parse(text), 0);
     EXPECT_EQ(g_model.g_nLayerCount, 256);
     EXPECT_EQ(LayerName(Layer(255)), "L255");

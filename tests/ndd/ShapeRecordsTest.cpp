@@ -2,10 +2,10 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
-#include "Fixtures.h"
 #include "ndd/BoardOutline.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
@@ -52,7 +52,8 @@ TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
          "%cutout\n%circle 1 2 100;\n%end_boundary\n",
          "L0 N0 C+ 0,0 100,100\nL0 N0 C- 1,2 10,10\n"},
         {"a fill without boundary covers the board outline",
-         "%fill_area \"GND\" \"GND\";\n\n%fill_area \"TOP\" \"VCC\";\n%fill_area \"GND\" \"VCC\";\n",
+         "%fill_area \"GND\" \"GND\";\n\n%fill_area \"TOP\" \"VCC\";\n%fill_area \"GND\" "
+         "\"VCC\";\n",
          "L1 N0 P+ 0,0 0,50 100,50 100,0 0,0\nL0 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"
          "L1 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"},
         {"a polygon runs over lines and ends at a lone semicolon line",
@@ -61,18 +62,23 @@ TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
         {"a polygon cut off by the end of the file keeps what it read",
          fill + "%polygon 0 0 10 0\n10 10 7", "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
         {"a line path looks ahead and leaves the cutout to be read",
-         fill + "%line 0 0 10 0;\n%arc 10 0 12 5 10 10;\n%line 10 10 0 0;\n%cutout\n%circle 5 5 2 ;\n"
-                "%end_boundary\n",
+         fill +
+             "%line 0 0 10 0;\n%arc 10 0 12 5 10 10;\n%line 10 10 0 0;\n%cutout\n%circle 5 5 2 ;\n"
+             "%end_boundary\n",
          "L0 N1 P+ 0,0 10,0 10,0 12,5 10,10 10,10 0,0 0,0\nL0 N1 C- 5,5 2,2\n"},
         {"a keyhole polygon splits on its repeated points",
          fill + "%polygon 0 0 10 0 10 10 0 10 0 5 3 5 3 7 7 7 7 3 3 3 3 5 0 5;\n%end_boundary\n",
          "L0 N1 Ps 3,5 3,7 7,7 7,3 3,3 3,5\nL0 N1 P+ 0,0 10,0 10,10 0,10 0,5 0,0\n"},
         {"repeated neighbour points merge, numbers read without case",
-         fill + "%polygon 0 0 1e1 0 1E1 0 10 10;\n%end_boundary\n", "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
+         fill + "%polygon 0 0 1e1 0 1E1 0 10 10;\n%end_boundary\n",
+         "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
         {"a fill without a net is passed over",
-         "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n%end_boundary\n", ""},
+         "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+         "1;\n%end_boundary\n",
+         ""},
         {"an unknown layer gives layer -1",
-         "%fill_area \"NOPE\" \"VCC\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n%end_boundary\n",
+         "%fill_area \"NOPE\" \"VCC\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+         "1;\n%end_boundary\n",
          "L-1 N1 P+ 0,0 0,1 1,1 1,0 0,0\n"},
     };
     for (const auto& row : rows) {
@@ -84,7 +90,9 @@ TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
 
 TEST_F(ShapeRecords, FillsWithoutANetWithTheNoNetOption) {
     g_options.g_nIncludeNoNetEtches = 1;
-    Read("%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n%end_boundary\n");
+    Read(
+        "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+        "1;\n%end_boundary\n");
     EXPECT_EQ(ShapesAsText(), "L0 N" + std::to_string(kNoNet) + " P+ 0,0 0,1 1,1 1,0 0,0\n");
 }
 

@@ -2,11 +2,11 @@
 
 #include <random>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/ShapeCleanupRound.h"
-#include "Fixtures.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "TestSupport.h"
 #include "Fixtures.h"
+#include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/NodeSet.h"
 #include "geometry/PointOnNetShape.h"

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "TestSupport.h"
 #include "Fixtures.h"
+#include "TestSupport.h"
 #include "app/Progress.h"
 #include "app/TranslationOptions.h"
 #include "geometry/NodeSet.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "TestSupport.h"
 #include "Fixtures.h"
+#include "TestSupport.h"
 #include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
 #include "geometry/NodeSet.h"
