@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "base/TextFile.h"
-#include "geometry/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 #include "ndd/NetTable.h"
 
 namespace fixtures {

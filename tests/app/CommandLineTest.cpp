@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

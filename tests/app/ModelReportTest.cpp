@@ -4,8 +4,8 @@
 
 #include "TestSupport.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
 #include "base/Platform.h"
+#include "model/TranslationOptions.h"
 
 using namespace testing_support;
 

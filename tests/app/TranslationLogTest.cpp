@@ -9,9 +9,9 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "base/Platform.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 using namespace testing_support;
 

@@ -5,10 +5,10 @@
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/CleanPolygon.h"
+#include "geometry/FinishShapes.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/SortShapes.h"
-#include "ndd/FinishShapes.h"
 
 using namespace fixtures;
 

@@ -4,8 +4,8 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 

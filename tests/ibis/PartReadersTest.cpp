@@ -2,9 +2,9 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 
 using testing_support::ResetGlobals;

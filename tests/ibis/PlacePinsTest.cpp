@@ -4,10 +4,10 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
 using testing_support::ResetGlobals;

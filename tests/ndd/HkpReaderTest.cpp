@@ -4,8 +4,8 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

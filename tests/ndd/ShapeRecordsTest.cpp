@@ -4,8 +4,8 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
+#include "model/TranslationOptions.h"
 #include "ndd/BoardOutline.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"

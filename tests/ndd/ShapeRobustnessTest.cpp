@@ -4,9 +4,9 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/ShapeCleanupRound.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"

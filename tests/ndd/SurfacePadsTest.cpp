@@ -4,7 +4,7 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include "Fixtures.h"
 #include "TestSupport.h"
 
-#include "app/TranslationOptions.h"
 #include "geometry/CheckUndiscardableVoids.h"
+#include "model/TranslationOptions.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/ViaContact.h"
 #include "qfx/ViaWriter.h"

@@ -2,10 +2,10 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/TraceReader.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/TraceWriter.h"
