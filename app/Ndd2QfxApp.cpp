@@ -1,6 +1,7 @@
 #include "app/Ndd2QfxApp.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <thread>
 
@@ -8,13 +9,15 @@
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
 #include "app/OutputGuard.h"
-#include "app/Usage.h"
-#include "model/ReportMessage.h"
-#include "model/TraceStep.h"
 #include "app/TranslationDriver.h"
-#include "model/TranslationOptions.h"
+#include "app/Usage.h"
 #include "base/FileChecks.h"
 #include "base/Platform.h"
+#include "base/ScopedClassicLocale.h"
+#include "model/BatchHost.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 
 namespace {
@@ -91,6 +94,8 @@ void CNdd2QfxApp::DecideFolder(std::string& folder) {
 }
 
 int CNdd2QfxApp::InitInstance() {
+    // Numbers on the command line and in a loaded log are in the "C" form.
+    base::ScopedClassicLocale classicNumbers;
     TranslationOptions& o = g_options;
     o.g_strProgramFolder = base::ProgramFolder(m_args.empty() ? nullptr : m_args[0].c_str());
     TraceStep(false, "start parse cmd line for Ndd");
@@ -115,20 +120,24 @@ int CNdd2QfxApp::InitInstance() {
 
     o.g_lstLogNets.clear();
     o.g_lstLogColors.clear();
-    TranslationDriver driver;
+    BatchHost batchHost;
+    TranslationDriver driver(batchHost);
     o.g_strInputFile = o.g_strCmdInputFile;
     o.g_strOutputFile = o.g_strCmdOutputFile;
     o.g_nQuiet = o.g_nBatchMode;
     if (!o.g_strCmdLogFile.empty()) {
         LoadLogFile(o.g_strCmdLogFile, o.g_strCmdInputFile, o.g_strCmdOutputFile);
-        driver.m_bReread = true;
+        driver.RereadInput();
     }
 
     if (o.g_nBatchMode != 0) {
         TraceStep(true, "batch mode");
         o.g_strInputFile = o.g_strCmdInputFile;
         o.g_strOutputFile = o.g_strCmdOutputFile;
-        m_bSucceeded = driver.Translate(o.g_strInputFile, o.g_strOutputFile) != 0;
+        // A batch run asks nothing, so it is never declined; a declined dialog run ends here.
+        TranslateStatus status = driver.Translate(o.g_strInputFile, o.g_strOutputFile);
+        if (status == TranslateStatus::Declined) std::exit(0);
+        m_bSucceeded = status == TranslateStatus::Done;
     } else {
         TraceStep(true, "UI mode");
         std::fprintf(stderr,
@@ -166,7 +175,6 @@ static int FinishedStatus(const CNdd2QfxApp& app) {
 }
 
 int RunProcess(int argc, char** argv) {
-    base::UseClassicNumericLocale();
     std::vector<std::string> args(argv, argv + argc);
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& a = args[i];

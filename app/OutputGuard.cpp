@@ -29,8 +29,8 @@ std::string FindInputClash(const std::string& inputFile, const std::string& outp
     const std::vector<std::string> reads = {inputFile, o.g_strTraceFile, o.g_strHkpFile};
     const std::string pipeline = PipelineName(outputFile);
     std::vector<std::string> decks = {outputFile, pipeline};
-    std::vector<std::string> logs = {outputFile + ".log",     pipeline + ".log",
-                                     outputFile + "temp.log", pipeline + "temp.log",
+    std::vector<std::string> logs = {outputFile + ".log",        pipeline + ".log",
+                                     outputFile + "temp.log",    pipeline + "temp.log",
                                      o.g_strOutputFile + ".log", o.g_strOutputFile + "temp.log"};
     for (const std::string& target : decks) {
         for (const std::string& source : reads)
