@@ -4,7 +4,9 @@
 cd "$(dirname "$0")"
 source ./tools_common.sh
 install_missing
-build build
+# Only the program: the tests and the benchmarks are ./test.sh's business.
+echo "Building ndd2qfx (first time: a few minutes)..."
+build_target build ndd2qfx || exit 1
 example="$PWD/examples/board.ndd"
 output="${example%.ndd}.qfx"
 start=$(date +%s%N)

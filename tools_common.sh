@@ -66,7 +66,7 @@ check_format() {
 }
 
 # build DIR [extra cmake args...]
-build() {
+configure() {
     local dir=$1
     shift
     local werror=OFF
@@ -75,5 +75,16 @@ build() {
     # A compiler cache makes the second build of a tree (and the sanitizer build) much shorter.
     command -v ccache >/dev/null 2>&1 && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake -S . -B "$dir" -DNDD2QFX_WERROR="$werror" "${launcher[@]}" "$@" >/dev/null
-    cmake --build "$dir" -j "$(nproc)"
+}
+
+build() {
+    configure "$@"
+    cmake --build "$1" -j "$(nproc)"
+}
+
+# Builds one target of a tree; quiet when it is up to date.
+build_target() {
+    local dir=$1 target=$2
+    configure "$dir"
+    cmake --build "$dir" -j "$(nproc)" --target "$target" >/dev/null
 }
