@@ -17,7 +17,7 @@ class NodeGrid {
     // A node of the set whose position changed from (oldX, oldY).
     void Moved(const NodeRec* node, double oldX, double oldY);
 
-    // Calls visit for every entered node of layer that may lie in the square x ± r, y ± r (and
+    // Calls visit for every entered node of layer that lies in the square x ± r, y ± r (and
     // for some others). False, having called nothing, when the grid cannot tell: the square is
     // too big or not finite.
     template <class Visit>
@@ -40,9 +40,9 @@ constexpr int64_t kNodeGridMaxCells = 4096;
 template <class Visit>
 bool NodeGrid::ForNear(int32_t layer, double x, double y, double r, Visit&& visit) const {
     int64_t x0, y0, x1, y1;
-    // A margin of one cell keeps nodes that moved within the tolerance out of doubt.
+    // Cells are monotonic in the coordinates, and a node moved is entered anew, so a node
+    // within the square stands in one of these cells.
     if (!Key(layer, x - r, y - r, x0, y0) || !Key(layer, x + r, y + r, x1, y1)) return false;
-    --x0, --y0, ++x1, ++y1;
     if ((x1 - x0 + 1) * (y1 - y0 + 1) > kNodeGridMaxCells) return false;
     for (int64_t cx = x0; cx <= x1; ++cx)
         for (int64_t cy = y0; cy <= y1; ++cy) {

@@ -130,7 +130,7 @@ void ModelAssignment::CopyBlockModels() {
     // A copy from a component makes every member of its block equal to it in all copied fields
     // and in the pins that both have. After the first, a member's own copy repeats what is
     // there already, except for the pins at and beyond the longest pin list copied so far.
-    struct Progress {
+    struct BlockCopy {
         bool agreed = false;
         size_t copiedPins = 0;
     };
@@ -138,11 +138,11 @@ void ModelAssignment::CopyBlockModels() {
     blockComponents.ForEach([&](const std::string&, std::vector<ComponentRec*>& members) {
         for (const ComponentRec* m : members) blockOf.emplace(m, &members);
     });
-    std::unordered_map<const std::vector<ComponentRec*>*, Progress> progress;
+    std::unordered_map<const std::vector<ComponentRec*>*, BlockCopy> progress;
     for (ComponentRec* c : components) {
         std::vector<ComponentRec*>* block = blockComponents.Find(c->blockName);
         if (!block) continue;
-        Progress& p = progress[block];
+        BlockCopy& p = progress[block];
         auto own = blockOf.find(c);
         const bool member = own != blockOf.end() && own->second == block;
         if (!member || !p.agreed) {

@@ -1,7 +1,7 @@
 #pragma once
 // The board as the translation sees it: one global record of tables, filled by the reader
 // passes in a fixed order, cleaned, and written. Lengths are doubles in mm, areas in mm².
-// Net index: position in the sorted net table; 65534 and 65535 mean no net. Layer index:
+// Net index: position in the sorted net table; kNoNet and kNoNetAlt mean no net. Layer index:
 // position in the layer table, top first; -1 for an unknown name.
 #include <cstdint>
 #include <memory>
@@ -13,14 +13,13 @@
 #include "geometry/NodeRec.h"
 #include "ibis/ComponentRecords.h"
 #include "ndd/LayerRecords.h"
+#include "ndd/NetIndex.h"
 #include "ndd/PadRecords.h"
 #include "ndd/ShapeRec.h"
 #include "ndd/TraceRec.h"
 #include "ndd/ViaRec.h"
 #include "qfx/ViaOutRec.h"
 
-constexpr int32_t kNoNet = 65535;
-constexpr int32_t kNoNetAlt = 65534;
 constexpr int kNetNameBytes = 128;
 
 struct NetRec {

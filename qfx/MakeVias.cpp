@@ -197,9 +197,9 @@ class ViaBuilder {
         out.net = via_.net;
         out.drillIndex = via_.drillIndex;
         out.upperNode = upperId_;
-        out.upperNet = static_cast<uint16_t>(upperNet_);
+        out.upperNet = upperNet_;
         out.lowerNode = lower->id;
-        out.lowerNet = static_cast<uint16_t>(lower->net);
+        out.lowerNet = lower->net;
         g_model.g_aViaOut.push_back(out);
         upperId_ = lower->id;
         upperNet_ = lower->net;
