@@ -43,7 +43,7 @@ for size in "${sizes[@]}"; do
     out="$work/out.qfx"
     /usr/bin/time -v -o "$work/time" env KEEP_BENCHMARK=0 "$program" -NoUI "$board" "$out" \
         >/dev/null 2>&1 || { echo "translation of $board failed" >&2; cat "$work/time" >&2; }
-    in_bytes=$(stat -c %s "$board")
+    in_bytes=$(stat -L -c %s "$board")
     out_bytes=$(stat -c %s "$out" 2>/dev/null || echo 0)
     # The floor: read the input once, write the output's size twice.
     read_cpu=$(cpu_of cat "$board")
