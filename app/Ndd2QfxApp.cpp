@@ -8,6 +8,7 @@
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
 #include "app/ReportMessage.h"
+#include "app/TerminalProgress.h"
 #include "app/TraceStep.h"
 #include "app/TranslationDriver.h"
 #include "app/TranslationOptions.h"
@@ -110,6 +111,7 @@ int CNdd2QfxApp::InitInstance() {
         TraceStep(true, "batch mode");
         o.g_strInputFile = o.g_strCmdInputFile;
         o.g_strOutputFile = o.g_strCmdOutputFile;
+        TerminalProgress line(stderr);
         driver.Translate(o.g_strInputFile, o.g_strOutputFile);
     } else {
         TraceStep(true, "UI mode");

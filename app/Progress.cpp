@@ -6,6 +6,8 @@ namespace {
 
 struct ProgressState {
     std::function<void(int)> handler;
+    std::function<void(const std::string&, int)> observer;
+    std::string stage;
     int position = 0;
     int lines = 0;
 };
@@ -21,10 +23,21 @@ void SetProgressHandler(std::function<void(int)> handler) {
     State().handler = std::move(handler);
 }
 
+void SetProgressStage(const std::string& stage) {
+    ProgressState& s = State();
+    s.stage = stage;
+    if (s.observer) s.observer(s.stage, s.position);
+}
+
+void SetProgressObserver(std::function<void(const std::string&, int)> observer) {
+    State().observer = std::move(observer);
+}
+
 void SetProgress(int position) {
     ProgressState& s = State();
     s.position = position;
     if (g_options.g_nQuiet == 0 && s.handler) s.handler(position);
+    if (s.observer) s.observer(s.stage, position);
 }
 
 void StartPassProgress() {
@@ -34,7 +47,7 @@ void StartPassProgress() {
 
 void CountPassLine() {
     ProgressState& s = State();
-    if (g_options.g_nQuiet != 0) return;
+    if (g_options.g_nQuiet != 0 && !s.observer) return;
     if (++s.lines <= 150) return;
     s.lines = 0;
     SetProgress(s.position + 5 > 50 ? 50 : s.position + 5);

@@ -74,6 +74,7 @@ std::string ExtensionOf(const std::string& name) {
 }  // namespace
 
 void TranslationDriver::ShowStage(const std::string& text) {
+    SetProgressStage(text);
     if (g_options.g_nQuiet == 0) OnStage(text);
 }
 
