@@ -5,7 +5,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "app/Progress.h"
+#include "model/Progress.h"
 
 namespace {
 

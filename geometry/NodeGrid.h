@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "geometry/NodeRec.h"
+#include "model/NodeRec.h"
 
 class NodeGrid {
   public:

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // 1 when (x, y) lies in shape i or on its outline, else 0. With useBox a point outside the
 // shape's bounding box answers 0 at once (on the box counts as in).

@@ -5,11 +5,11 @@
 #include <cstdio>
 #include <vector>
 
-#include "app/TranslationOptions.h"
 #include "geometry/NodeGrid.h"
-#include "geometry/NodeSet.h"
 #include "geometry/PointInShape.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 #include "qfx/ViaContact.h"

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/Progress.h"
+#include "model/Progress.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <cstdint>
 
-#include "ndd/NetIndex.h"
+#include "model/NetIndex.h"
 
 struct PadStackRec;
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <cstdint>
 
-#include "ndd/NetIndex.h"
+#include "model/NetIndex.h"
 
 // polarity values of ShapeRec
 constexpr int32_t kPolaritySplit = 0;  // a piece split off a polygon

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "ndd/NetIndex.h"
+#include "model/NetIndex.h"
 
 struct PadStackRec;
 

@@ -10,15 +10,15 @@
 
 #include "base/StringMap.h"
 #include "base/TextFile.h"
-#include "geometry/NodeRec.h"
-#include "ibis/ComponentRecords.h"
-#include "ndd/LayerRecords.h"
-#include "ndd/NetIndex.h"
-#include "ndd/PadRecords.h"
-#include "ndd/ShapeRec.h"
-#include "ndd/TraceRec.h"
-#include "ndd/ViaRec.h"
-#include "qfx/ViaOutRec.h"
+#include "model/ComponentRecords.h"
+#include "model/LayerRecords.h"
+#include "model/NetIndex.h"
+#include "model/NodeRec.h"
+#include "model/PadRecords.h"
+#include "model/ShapeRec.h"
+#include "model/TraceRec.h"
+#include "model/ViaOutRec.h"
+#include "model/ViaRec.h"
 
 constexpr int kNetNameBytes = 128;
 
