@@ -6,7 +6,7 @@
 namespace {
 
 void AppendFormatted(std::string& out, double v, int precision, std::chars_format form,
-                     const char* spec) {
+                     const char* format) {
     // Room for the longest fixed form of a double: 309 digits, point, precision and sign.
     char buf[400];
     if (std::isfinite(v) && precision >= 0 && precision < 40) {
@@ -16,7 +16,7 @@ void AppendFormatted(std::string& out, double v, int precision, std::chars_forma
             return;
         }
     }
-    int n = std::snprintf(buf, sizeof buf, spec, precision, v);
+    int n = std::snprintf(buf, sizeof buf, format, precision, v);
     if (n > 0) out.append(buf, static_cast<size_t>(n) < sizeof buf ? n : sizeof buf - 1);
 }
 

@@ -12,9 +12,9 @@
 
 namespace {
 
-std::string Printf(const char* spec, int precision, double v) {
+std::string Printf(const char* format, int precision, double v) {
     char buf[512];
-    std::snprintf(buf, sizeof buf, spec, precision, v);
+    std::snprintf(buf, sizeof buf, format, precision, v);
     return buf;
 }
 
