@@ -1,54 +1,51 @@
 #include "model/Progress.h"
 
+#include "model/TranslationHost.h"
 #include "model/TranslationOptions.h"
 
 namespace {
 
 struct ProgressState {
-    std::function<void(int)> handler;
     std::function<void(const std::string&, int)> observer;
     std::string stage;
     int position = 0;
     int lines = 0;
 };
 
-ProgressState& State() {
-    static ProgressState state;
-    return state;
-}
+ProgressState g_progress;
 
 }  // namespace
 
-void SetProgressHandler(std::function<void(int)> handler) {
-    State().handler = std::move(handler);
+void ResetProgress() {
+    // The observer stays: it is the run's, not the translation's.
+    auto observer = std::move(g_progress.observer);
+    g_progress = ProgressState();
+    g_progress.observer = std::move(observer);
 }
 
 void SetProgressStage(const std::string& stage) {
-    ProgressState& s = State();
-    s.stage = stage;
-    if (s.observer) s.observer(s.stage, s.position);
+    g_progress.stage = stage;
+    if (g_progress.observer) g_progress.observer(g_progress.stage, g_progress.position);
 }
 
 void SetProgressObserver(std::function<void(const std::string&, int)> observer) {
-    State().observer = std::move(observer);
+    g_progress.observer = std::move(observer);
 }
 
 void SetProgress(int position) {
-    ProgressState& s = State();
-    s.position = position;
-    if (g_options.g_nQuiet == 0 && s.handler) s.handler(position);
-    if (s.observer) s.observer(s.stage, position);
+    g_progress.position = position;
+    if (g_options.g_nQuiet == 0) CurrentHost().SetProgress(position);
+    if (g_progress.observer) g_progress.observer(g_progress.stage, position);
 }
 
 void StartPassProgress() {
-    State().lines = 0;
+    g_progress.lines = 0;
     SetProgress(10);
 }
 
 void CountPassLine() {
-    ProgressState& s = State();
-    if (g_options.g_nQuiet != 0 && !s.observer) return;
-    if (++s.lines <= 150) return;
-    s.lines = 0;
-    SetProgress(s.position + 5 > 50 ? 50 : s.position + 5);
+    if (g_options.g_nQuiet != 0 && !g_progress.observer) return;
+    if (++g_progress.lines <= 150) return;
+    g_progress.lines = 0;
+    SetProgress(g_progress.position + 5 > 50 ? 50 : g_progress.position + 5);
 }
