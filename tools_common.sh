@@ -1,7 +1,7 @@
 # Shared by run.sh and test.sh: installs what is missing and builds.
 set -euo pipefail
 
-NEEDED_PACKAGES=(g++ cmake make ccache libgtest-dev libgmock-dev libbenchmark-dev)
+NEEDED_PACKAGES=(g++ cmake make ccache pkg-config libgtest-dev libgmock-dev libbenchmark-dev libdw-dev)
 
 install_missing() {
     local missing=()

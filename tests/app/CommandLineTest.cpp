@@ -80,3 +80,31 @@ TEST(DefaultOutputName, CutsAtTheDotOfTheExtensionOnly) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(CommandLineTest, PipeTokenStartsFromTheParentWhateverFollows) {
+    const struct {
+        std::vector<std::string> args;
+        int batchMode;
+    } cases[] = {
+        {{"-pipe"}, 0},
+        {{"/PIPE"}, 0},
+        {{"-pipe", "-NoUI"}, -1},
+        {{"-b", "/pipe", "a.ndd", "b.qfx"}, 1},
+        {{"-NoUI", "-Pipe", "a.qfx"}, -1},
+    };
+    for (const auto& c : cases) {
+        testing_support::ResetGlobals();
+        Parsed p = Parse(c.args);
+        EXPECT_EQ(p.result, kCmdPipeStart) << c.args[0];
+        EXPECT_EQ(p.log + p.input + p.output, "");
+        EXPECT_EQ(g_options.g_nBatchMode, c.batchMode);
+    }
+    // Behind the first name the token is a name like any other.
+    testing_support::ResetGlobals();
+    EXPECT_EQ(Parse({"a.ndd", "-pipe"}).result, kCmdFilesTaken);
+    EXPECT_EQ(Parse({"-pipes"}).result, kCmdUnknownExtension);
+}
+
+}  // namespace
