@@ -106,24 +106,6 @@ TEST_F(RunLogTest, DestinationGrammarForFiles) {
     EXPECT_TRUE(g_pieces.empty());
 }
 
-TEST_F(RunLogTest, StampIsLocalTimeIn23Characters) {
-    std::string path = m_dir.File("t.log");
-    std::time_t before = std::time(nullptr);
-    base::WriteLog(path.c_str(), "x\n");
-    std::time_t after = std::time(nullptr);
-    std::string text = ReadFile(path);
-    ASSERT_EQ(text.size(), 23u + 2u);
-    bool known = false;
-    for (std::time_t t = before; t <= after; ++t) {
-        char stamp[64];
-        std::tm local{};
-        localtime_r(&t, &local);
-        std::strftime(stamp, sizeof stamp, "[%Y/%m/%d-%H:%M:%S]--", &local);
-        known = known || text == std::string(stamp) + "x\n";
-    }
-    EXPECT_TRUE(known) << text;
-}
-
 TEST_F(RunLogTest, DebuggerChannelTakesPiecesOf4096) {
     const std::string message(10000, 'm');
     base::WriteLog("", message.c_str());
