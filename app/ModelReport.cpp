@@ -2,15 +2,15 @@
 
 #include <cstdio>
 
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
 #include "app/TranslationLog.h"
-#include "app/TranslationOptions.h"
 #include "base/Platform.h"
 #include "base/SafeFile.h"
-#include "geometry/NodeSet.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
+#include "model/NodeSet.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"

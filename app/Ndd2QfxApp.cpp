@@ -7,12 +7,12 @@
 #include "Version.h"
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
 #include "base/ParentPipe.h"
 #include "base/Platform.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 
 namespace {

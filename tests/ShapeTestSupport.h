@@ -2,10 +2,10 @@
 // Shapes and traces placed by hand, for the void check and the via tests.
 #include <vector>
 
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace testing_support {
 

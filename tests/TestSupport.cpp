@@ -7,9 +7,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/TraceStep.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 
 namespace testing_support {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/TextFile.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NetTable.h"
 
 namespace testing_support {

@@ -5,7 +5,7 @@
 
 #include "TestSupport.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 
 using namespace testing_support;

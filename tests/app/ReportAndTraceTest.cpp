@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "TestSupport.h"
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
-#include "app/TranslationOptions.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "TestSupport.h"
 #include "app/CommandLine.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 
 namespace {

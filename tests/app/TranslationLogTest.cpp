@@ -8,9 +8,9 @@
 #include <sstream>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 using namespace testing_support;
 

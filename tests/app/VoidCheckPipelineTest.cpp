@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "TestSupport.h"
-#include "app/ReportMessage.h"
+#include "model/ReportMessage.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

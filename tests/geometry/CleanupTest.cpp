@@ -8,7 +8,7 @@
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/ShapeFixtures.h"
 #include "geometry/SortShapes.h"
-#include "ndd/FinishShapes.h"
+#include "geometry/FinishShapes.h"
 
 using namespace shape_fixtures;
 

@@ -4,8 +4,8 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "geometry/ShapeTable.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace shape_fixtures {
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/ModelAssignment.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 using testing_support::CaptureOutput;
 using testing_support::ResetGlobals;

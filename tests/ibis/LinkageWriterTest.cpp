@@ -3,13 +3,13 @@
 #include <cstring>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/ModelAssignment.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NetTable.h"
 
 using testing_support::CaptureOutput;

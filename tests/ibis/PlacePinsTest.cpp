@@ -3,10 +3,10 @@
 #include <cstring>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NetTable.h"
 
 using testing_support::ResetGlobals;

@@ -4,8 +4,8 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

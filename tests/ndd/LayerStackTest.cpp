@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "TestSupport.h"
-#include "app/ReportMessage.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 
 using namespace testing_support;
 

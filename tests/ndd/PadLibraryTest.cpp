@@ -6,7 +6,7 @@
 
 #include "TestSupport.h"
 #include "ndd/LayerStack.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/PadStackLayers.h"
 
 using namespace testing_support;

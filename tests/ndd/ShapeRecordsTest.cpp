@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/ShapeFixtures.h"
 #include "ndd/BoardOutline.h"

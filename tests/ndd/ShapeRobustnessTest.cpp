@@ -3,7 +3,7 @@
 #include <random>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/ShapeFixtures.h"

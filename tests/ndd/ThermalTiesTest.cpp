@@ -6,12 +6,12 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "geometry/PointOnNetShape.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "app/Progress.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/Progress.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

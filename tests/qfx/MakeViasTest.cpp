@@ -5,7 +5,7 @@
 #include "ShapeTestSupport.h"
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/CheckUndiscardableVoids.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/ViaContact.h"

@@ -2,10 +2,10 @@
 
 #include "TestSupport.h"
 #include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/LayoutModel.h"
 #include "ndd/TraceReader.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/TraceWriter.h"

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "qfx/Skeleton.h"
 
 using namespace testing_support;

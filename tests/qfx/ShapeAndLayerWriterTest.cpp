@@ -3,8 +3,8 @@
 #include <cstdio>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/ShapeWriter.h"
 

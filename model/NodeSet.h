@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "geometry/NodeRec.h"
+#include "model/NodeRec.h"
 
 // Finds or adds the node at (x, y) on layer, for a trace end or a pin. A new node takes the
 // next node number, traceRefs 1 and viaRefs 0. An existing one counts one more trace

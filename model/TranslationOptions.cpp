@@ -1,4 +1,4 @@
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 
 TranslationOptions g_options;
 

@@ -1,6 +1,6 @@
-#include "ndd/LayerLookup.h"
+#include "model/LayerLookup.h"
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 int16_t LayerIndexByName(const std::string& name) {
     if (!g_model.g_aLayers) return -1;

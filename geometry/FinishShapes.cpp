@@ -1,4 +1,4 @@
-#include "ndd/FinishShapes.h"
+#include "geometry/FinishShapes.h"
 
 #include <cmath>
 
@@ -6,7 +6,7 @@
 #include "geometry/ShapeArea.h"
 #include "geometry/ShapeBoxes.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 #include <cstring>
 

@@ -1,13 +1,13 @@
-#include "app/TraceStep.h"
+#include "model/TraceStep.h"
 
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <strings.h>
 
 #include "base/Platform.h"
-#include "ndd/NddTokens.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ TraceState& State() {
 void Decide(TraceState& s) {
     s.decided = true;
     const char* keep = std::getenv("KEEP_BENCHMARK");
-    if (keep && (EqualsNoCase(keep, "No") || EqualsNoCase(keep, "0"))) {
+    if (keep && (strcasecmp(keep, "No") == 0 || std::strcmp(keep, "0") == 0)) {
         s.on = false;
         return;
     }

@@ -1,6 +1,6 @@
-#include "app/Progress.h"
+#include "model/Progress.h"
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

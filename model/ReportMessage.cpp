@@ -1,8 +1,8 @@
-#include "app/ReportMessage.h"
+#include "model/ReportMessage.h"
 
 #include <cstdio>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 MessageBoxHandler g_boxHandler = nullptr;
