@@ -7,9 +7,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "model/LayoutModel.h"
 #include "model/TraceStep.h"
 #include "model/TranslationOptions.h"
-#include "model/LayoutModel.h"
 
 namespace testing_support {
 

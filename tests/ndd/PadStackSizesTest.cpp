@@ -6,9 +6,9 @@
 #include <string>
 
 #include "TestSupport.h"
+#include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "ndd/LayerStack.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/PadBoundaries.h"
 
