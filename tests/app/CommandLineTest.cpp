@@ -60,6 +60,11 @@ TEST(CommandLine, NamesOptionsAndResults) {
          {kCmdFilesTaken, "", "~/a.ndd", "", "~/t.txt", "~/dir/x.hkp", 1}},
         {{"-hkp", "b.ndd", "a.ndd"}, {kCmdFilesTaken, "", "~/a.ndd", "", "", "~/b.ndd", 0}},
         {{"-traces"}, {kCmdNoFile, "", "", "", "", "", 0}},
+        // Started by the parent tool: the run mode options stand, names are not read.
+        {{"-pipe"}, {kCmdPipeStart, "", "", "", "", "", 0}},
+        {{"/PIPE", "-NoUI"}, {kCmdPipeStart, "", "", "", "", "", -1}},
+        {{"-b", "-Pipe", "a.ndd", "b.qfx"}, {kCmdPipeStart, "", "", "", "", "", 1}},
+        {{"a.ndd", "-pipe"}, {kCmdFilesTaken, "", "~/a.ndd", "-pipe", "", "", 0}},
     };
     for (const auto& row : rows) {
         Parsed want = row.want;
@@ -69,6 +74,7 @@ TEST(CommandLine, NamesOptionsAndResults) {
     }
     EXPECT_EQ(Parse({"a.qfx"}).result, kCmdUnknownExtension);
     EXPECT_EQ(Parse({"-x", "a.ndd"}).result, kCmdUnknownExtension);  // -x is the first name
+    EXPECT_EQ(Parse({"-pipes"}).result, kCmdUnknownExtension);
     EXPECT_EQ(Parse({}).result, kCmdNoFile);
     EXPECT_EQ(Parse({"-NoUI"}).result, kCmdNoFile);
 }
@@ -92,34 +98,6 @@ TEST(DefaultOutputName, CutsAtTheDotOfTheExtensionOnly) {
     EXPECT_EQ(DefaultOutputName("/d/my.board.ndd"), "/d/my.board.qfx");
     EXPECT_EQ(DefaultOutputName("/d/boardndd"), "/d/boardndd.qfx");
     EXPECT_EQ(DefaultOutputName("/d/a.NDD"), "/d/a.qfx");
-}
-
-}  // namespace
-
-namespace {
-
-TEST_F(CommandLineTest, PipeTokenStartsFromTheParentWhateverFollows) {
-    const struct {
-        std::vector<std::string> args;
-        int batchMode;
-    } cases[] = {
-        {{"-pipe"}, 0},
-        {{"/PIPE"}, 0},
-        {{"-pipe", "-NoUI"}, -1},
-        {{"-b", "/pipe", "a.ndd", "b.qfx"}, 1},
-        {{"-NoUI", "-Pipe", "a.qfx"}, -1},
-    };
-    for (const auto& c : cases) {
-        testing_support::ResetGlobals();
-        Parsed p = Parse(c.args);
-        EXPECT_EQ(p.result, kCmdPipeStart) << c.args[0];
-        EXPECT_EQ(p.log + p.input + p.output, "");
-        EXPECT_EQ(g_options.g_nBatchMode, c.batchMode);
-    }
-    // Behind the first name the token is a name like any other.
-    testing_support::ResetGlobals();
-    EXPECT_EQ(Parse({"a.ndd", "-pipe"}).result, kCmdFilesTaken);
-    EXPECT_EQ(Parse({"-pipes"}).result, kCmdUnknownExtension);
 }
 
 }  // namespace
