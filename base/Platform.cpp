@@ -1,6 +1,11 @@
 #include "base/Platform.h"
 
+<<<<<<< HEAD
 #include <pthread.h>
+=======
+#include "base/ScopedClassicLocale.h"
+
+>>>>>>> main
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -92,6 +97,7 @@ std::string ProgramFolder(const char* argv0) {
 std::string FormatTime(const char* format, std::time_t when) {
     std::string fmt(format);
     for (size_t p; (p = fmt.find("%#d")) != std::string::npos;) fmt.replace(p, 3, "%-d");
+    ScopedClassicLocale classicNames;
     std::tm tmv{};
     localtime_r(&when, &tmv);
     char buf[512];
@@ -99,6 +105,7 @@ std::string FormatTime(const char* format, std::time_t when) {
     return std::string(buf, n);
 }
 
+<<<<<<< HEAD
 void UseClassicNumericLocale() {
     std::setlocale(LC_NUMERIC, "C");
     std::setlocale(LC_TIME, "C");
@@ -127,4 +134,6 @@ std::string FolderWithSeparator(const std::string& path) {
     return sep == std::string::npos ? std::string() : path.substr(0, sep + 1);
 }
 
+=======
+>>>>>>> main
 }  // namespace base
