@@ -4,6 +4,10 @@
 
 #include "app/TranslationLog.h"
 #include "base/Platform.h"
+<<<<<<< HEAD
+#include "base/SafeFile.h"
+=======
+>>>>>>> main
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
 #include "model/NodeSet.h"
@@ -52,6 +56,10 @@ void WriteAllSections(FILE* out, ModelAssignment* models, ComponentNodes* nodes)
     WriteFileEnd(out);
 }
 
+void DeleteTemporaryLog(const std::string& path) {
+    if (base::PathExists(path)) base::SafeDeleteFile(path);
+}
+
 }  // namespace
 
 int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
@@ -72,8 +80,8 @@ int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
     g_options.g_pOutputFile = nullptr;
     if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
     g_options.g_pTempLogFile = nullptr;
-    base::RemoveFile(base + "temp.log");
-    if (outputFile != base) base::RemoveFile(outputFile + "temp.log");
+    DeleteTemporaryLog(base + "temp.log");
+    if (outputFile != base) DeleteTemporaryLog(outputFile + "temp.log");
     return 1;
 }
 

@@ -10,9 +10,14 @@
 #include "app/LogLoader.h"
 #include "app/TerminalProgress.h"
 #include "app/TranslationDriver.h"
+<<<<<<< HEAD
+#include "base/ParentPipe.h"
+#include "base/Platform.h"
+=======
 #include "base/Platform.h"
 #include "base/ScopedClassicLocale.h"
 #include "model/BatchHost.h"
+>>>>>>> main
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
 #include "model/TranslationOptions.h"
@@ -36,6 +41,16 @@ std::string FolderOf(const std::string& path) {
 
 std::string InFolder(const std::string& folder, const std::string& name) {
     return folder + base::kSep + name;
+}
+
+// The parent tool hands the case over the pipe; a failure leaves its words in the trace only.
+bool TakeCaseFromParent(std::string& logFile) {
+    std::string words;
+    if (base::GetCaseFromParent(&words, logFile, "I'm Gantry", true)) return true;
+    TraceStep(true, "faile to get case name from pipe");
+    while (!words.empty() && words.back() == '\n') words.pop_back();
+    if (!words.empty()) TraceStep(true, "%s", words.c_str());
+    return false;
 }
 
 }  // namespace
@@ -87,6 +102,10 @@ int CNdd2QfxApp::InitInstance() {
         TraceStep(true, "Unknown file extension name(%d)", result);
         ReportMessage("Unknown file extension name.");
         return 0;
+    }
+    if (result == kCmdPipeStart) {
+        if (!TakeCaseFromParent(o.g_strCmdLogFile)) return 0;
+        result = kCmdFilesTaken;
     }
     for (std::string* p : {&o.g_strCmdLogFile, &o.g_strCmdInputFile, &o.g_strCmdOutputFile})
         *p = base::NativeSeparators(*p);

@@ -1,13 +1,18 @@
 #include "base/Platform.h"
 
+<<<<<<< HEAD
+#include <pthread.h>
+=======
 #include "base/ScopedClassicLocale.h"
 
+>>>>>>> main
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 namespace base {
@@ -100,4 +105,35 @@ std::string FormatTime(const char* format, std::time_t when) {
     return std::string(buf, n);
 }
 
+<<<<<<< HEAD
+void UseClassicNumericLocale() {
+    std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_TIME, "C");
+}
+
+const char* ErrorText(int error) {
+    return std::strerror(error);
+}
+
+size_t StackRoom() {
+    pthread_attr_t attr;
+    if (pthread_getattr_np(pthread_self(), &attr) != 0) return 0;
+    void* low = nullptr;
+    size_t size = 0;
+    int rc = pthread_attr_getstack(&attr, &low, &size);
+    pthread_attr_destroy(&attr);
+    char here = 0;
+    const char* mark = &here;
+    const char* bottom = static_cast<const char*>(low);
+    if (rc != 0 || mark < bottom || mark > bottom + size) return 0;
+    return static_cast<size_t>(mark - bottom);
+}
+
+std::string FolderWithSeparator(const std::string& path) {
+    size_t sep = LastSeparator(path);
+    return sep == std::string::npos ? std::string() : path.substr(0, sep + 1);
+}
+
+=======
+>>>>>>> main
 }  // namespace base
