@@ -1,7 +1,7 @@
 # Shared by run.sh and test.sh: installs what is missing and builds.
 set -euo pipefail
 
-NEEDED_PACKAGES=(g++ cmake make ccache libgtest-dev libgmock-dev libbenchmark-dev)
+NEEDED_PACKAGES=(g++ cmake make ccache libgtest-dev libgmock-dev libbenchmark-dev qtbase5-dev libqt5svg5-dev)
 
 install_missing() {
     local missing=()
