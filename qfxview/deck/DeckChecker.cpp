@@ -32,6 +32,12 @@ void DeckChecker::TakeOwn(const Statement& s) {
     if (s.kind == Kind::Other) return FormError(s, "unknown statement " + FirstWord(s.head));
     if (!HasWriterForm(s))
         return FormError(s, std::string(KindName(s.kind)) + " does not have the writers' form");
+    std::string number;
+    if (HoldsNonFinite(s, number))
+        // Numbers are read as far as they go, "inf" and "nan" included, and printed as read.
+        findings_.Add(s.line, Severity::Warning, "non-finite-number",
+                      std::string(KindName(s.kind)) + " holds the number " + number +
+                          ", which the input held and the writers print as read");
     switch (s.kind) {
         case Kind::ShapeOpen:
             references_.ShapeSection(s);

@@ -1,5 +1,7 @@
 #include "deck/Forms.h"
 
+#include "deck/Fields.h"
+
 #include <cctype>
 #include <cstring>
 
@@ -18,9 +20,18 @@ int Digits(const char*& s) {
     return n;
 }
 
+// What printf prints for a number that is not finite.
+bool NonFinite(const char*& s) {
+    const char* p = *s == '-' ? s + 1 : s;
+    if (std::strncmp(p, "inf", 3) != 0 && std::strncmp(p, "nan", 3) != 0) return false;
+    s = p + 3;
+    return true;
+}
+
 // A number as %e (decimals 6) or %.10e (decimals 10) prints it: one digit, the point, the
 // decimals, "e", a sign and at least two exponent digits.
 bool Exponential(const char*& s, int decimals) {
+    if (NonFinite(s)) return true;
     if (*s == '-') ++s;
     if (Digits(s) != 1 || *s++ != '.') return false;
     if (Digits(s) != decimals || *s++ != 'e') return false;
@@ -30,6 +41,7 @@ bool Exponential(const char*& s, int decimals) {
 }
 
 bool Fixed(const char*& s) {
+    if (NonFinite(s)) return true;
     if (*s == '-') ++s;
     if (Digits(s) < 1 || *s++ != '.') return false;
     return Digits(s) == 6;
@@ -246,6 +258,20 @@ bool HasWriterForm(const Statement& s) {
         case Kind::Orphan:
         case Kind::Other:
             return false;
+    }
+    return false;
+}
+
+bool HoldsNonFinite(const Statement& s, std::string& word) {
+    for (size_t i = 0; i <= s.moreCount; ++i) {
+        const std::string& line = i == 0 ? s.head : s.more[i - 1];
+        if (line.find("inf") == std::string::npos && line.find("nan") == std::string::npos)
+            continue;
+        for (std::string w : Words(line)) {
+            if (w.size() > 2 && w.compare(w.size() - 2, 2, "mm") == 0) w.resize(w.size() - 2);
+            const char* p = w.c_str();
+            if (NonFinite(p) && *p == '\0') return word = w, true;
+        }
     }
     return false;
 }

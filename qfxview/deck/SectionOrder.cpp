@@ -244,6 +244,11 @@ Place SectionOrder::Take(const Statement& s) {
 }
 
 void SectionOrder::Finish(uint64_t lastLine, bool cutOff) {
+    if (phase_ == kStart && open_ == Open::None) {
+        // Nothing but blank lines and comments: a translation that stopped before writing.
+        Error(lastLine, "missing-statement", "the deck is empty");
+        return;
+    }
     if (cutOff) Error(lastLine, "cut-off", "last line has no line end: the deck is cut off");
     if (open_ != Open::None)
         Error(lastLine, "section-balance",

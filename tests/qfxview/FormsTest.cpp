@@ -22,7 +22,9 @@ const FormCase kCases[] = {
     {"{E}mm", "1.00000e-01mm", false},    // five decimals
     {"{E}mm", "1.000000e-1mm", false},    // one exponent digit
     {"{E}mm", "10.000000e-01mm", false},  // two leading digits
-    {"{E}mm", "infmm", false},
+    {"{E}mm", "infmm", true},             // printf's own words for numbers that are not finite
+    {"{E}mm", "-nanmm", true},
+    {"{E}mm", "infinitymm", false},
     {"{T}mm", "1.2345678900e+01mm", true},
     {"{T}mm", "1.234567e+01mm", false},
     {"{F}", "-90.000000", true},

@@ -12,7 +12,7 @@ namespace {
 
 const std::string kData = QFXVIEW_TEST_DATA;
 
-int Run(const std::string& args, std::string& out) {
+int RunViewer(const std::string& args, std::string& out) {
     std::string cmd = "cd '" + kData + "' && '" QFXVIEW_BINARY "' " + args + " 2>/dev/null";
     FILE* pipe = popen(cmd.c_str(), "r");
     char buffer[4096];
@@ -25,18 +25,18 @@ int Run(const std::string& args, std::string& out) {
 
 TEST(Program, ExitStatusTellsErrorsFromWarnings) {
     std::string out;
-    EXPECT_EQ(Run("patch.qfx", out), 0);  // a warning only
-    EXPECT_EQ(Run("unresolved.qfx", out), 1);
-    EXPECT_EQ(Run("", out), 2);
-    EXPECT_EQ(Run("clean.qfx --width", out), 2);
-    EXPECT_EQ(Run("nothing.qfx", out), 1);
+    EXPECT_EQ(RunViewer("patch.qfx", out), 0);  // a warning only
+    EXPECT_EQ(RunViewer("unresolved.qfx", out), 1);
+    EXPECT_EQ(RunViewer("", out), 2);
+    EXPECT_EQ(RunViewer("clean.qfx --width", out), 2);
+    EXPECT_EQ(RunViewer("nothing.qfx", out), 1);
     EXPECT_EQ(out, "nothing.qfx: error: cannot open the deck: No such file or directory\n");
 }
 
 TEST(Program, WritesAPictureOfEachConductorLayer) {
     QTemporaryDir dir;
     std::string out;
-    ASSERT_EQ(Run("clean.qfx -o '" + dir.path().toStdString() + "' --nodes", out), 0);
+    ASSERT_EQ(RunViewer("clean.qfx -o '" + dir.path().toStdString() + "' --nodes", out), 0);
     QStringList files = QDir(dir.path()).entryList(QDir::Files, QDir::Name);
     EXPECT_EQ(files.join(" ").toStdString(),
               "layer-BOTTOM.png layer-GND.png layer-TOP.png stack.png");
