@@ -13,6 +13,7 @@
 #include "deck/DeckLines.h"
 #include "deck/DeckScan.h"
 #include "draw/Pictures.h"
+#include "draw/ToolkitLeaks.h"
 
 namespace {
 

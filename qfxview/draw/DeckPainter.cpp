@@ -81,8 +81,10 @@ void DeckPainter::Node(const Statement& s) {
     place.x = static_cast<float>(Number(ValueOf(s.head, "X")));
     place.y = static_cast<float>(Number(ValueOf(s.head, "Y")));
     place.layer = scan_.LayerIndex(ValueOf(s.head, "Layer"));
-    nodes_.push_back(place);
-    nodesSorted_ = false;
+    if (nodesSorted_)
+        lateNodes_.emplace(place.hash, place);
+    else
+        nodes_.push_back(place);
     const QPointF at(place.x, place.y);
     std::string padStack = ValueOf(s.head, "PadStack");
     if (!padStack.empty())
@@ -100,7 +102,9 @@ const DeckPainter::NodePlace* DeckPainter::FindNode(const std::string& name) {
     uint64_t hash = HashName(name);
     auto it = std::lower_bound(nodes_.begin(), nodes_.end(), hash,
                                [](const NodePlace& n, uint64_t h) { return n.hash < h; });
-    return it != nodes_.end() && it->hash == hash ? &*it : nullptr;
+    if (it != nodes_.end() && it->hash == hash) return &*it;
+    auto late = lateNodes_.find(hash);
+    return late == lateNodes_.end() ? nullptr : &late->second;
 }
 
 void DeckPainter::Trace(const Statement& s) {

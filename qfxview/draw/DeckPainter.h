@@ -6,6 +6,7 @@
 // traces and vias name the nodes they join.
 #include <QColor>
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 #include "deck/DeckScan.h"
@@ -40,8 +41,10 @@ class DeckPainter {
     bool nodeMarks_;
     int shapeLayer_ = -1;  // the layer of the open .Shape section
     QColor sectionColor_;
-    std::vector<NodePlace> nodes_;
-    bool nodesSorted_ = true;
+    std::vector<NodePlace> nodes_;  // sorted by hash once the first trace or via asks
+    bool nodesSorted_ = false;
+    // Nodes that stand behind a trace or via, in a deck out of order.
+    std::unordered_map<uint64_t, NodePlace> lateNodes_;
 };
 
 }  // namespace qfxview

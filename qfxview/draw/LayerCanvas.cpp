@@ -41,9 +41,15 @@ LayerCanvas::LayerCanvas(const Frame& frame, const std::string& svgPath)
         svgPainter_ = std::make_unique<QPainter>(svg_.get());
         svgPainter_->fillRect(QRect(0, 0, frame.width, frame.height), Background());
     }
+    // A thin grey outline of the board's extent, so that a layer with little on it still
+    // shows where it lies.
+    QPen outline(QColor(0xc0, 0xc0, 0xc0));
+    outline.setWidth(0);
     EachPainter([&](QPainter& p) {
         p.setRenderHint(QPainter::Antialiasing, true);
         p.setTransform(frame.toPicture);
+        p.setPen(outline);
+        p.drawRect(frame.board);
         p.setPen(Qt::NoPen);
     });
 }

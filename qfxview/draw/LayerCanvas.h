@@ -16,6 +16,7 @@ namespace qfxview {
 struct Frame {
     int width = 0, height = 0;
     QTransform toPicture;
+    QRectF board;  // the extent, in mm
 };
 
 // A frame of the given width around the extent, with a margin, the board's y upwards.

@@ -4,6 +4,8 @@
 #include <QGuiApplication>
 #include <cstdlib>
 
+#include "draw/ToolkitLeaks.h"
+
 int main(int argc, char** argv) {
     if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QGuiApplication app(argc, argv);
