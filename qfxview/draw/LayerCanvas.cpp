@@ -24,6 +24,7 @@ Frame FrameOf(const Extent& extent, int width) {
     double height = spanY * scale + 2 * kMargin;
     frame.height = static_cast<int>(std::min<double>(std::ceil(height), kMaxHeight));
     double minX = extent.empty ? 0.0 : extent.minX, maxY = extent.empty ? 1.0 : extent.maxY;
+    frame.board = QRectF(minX, maxY - spanY, spanX, spanY);
     frame.toPicture =
         QTransform(scale, 0, 0, -scale, kMargin - minX * scale, kMargin + maxY * scale);
     return frame;
@@ -43,7 +44,7 @@ LayerCanvas::LayerCanvas(const Frame& frame, const std::string& svgPath)
     }
     // A thin grey outline of the board's extent, so that a layer with little on it still
     // shows where it lies.
-    QPen outline(QColor(0xc0, 0xc0, 0xc0));
+    QPen outline(QColor(0x80, 0x80, 0x80));
     outline.setWidth(0);
     EachPainter([&](QPainter& p) {
         p.setRenderHint(QPainter::Antialiasing, true);
