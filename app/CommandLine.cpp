@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "app/ReportMessage.h"
-#include "app/TranslationOptions.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 #include "ndd/NddTokens.h"
 

@@ -3,11 +3,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "app/ReportMessage.h"
+#include "model/ReportMessage.h"
 #include "app/SettingsPage.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

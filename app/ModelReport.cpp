@@ -2,12 +2,12 @@
 
 #include <cstdio>
 
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
 #include "app/TranslationLog.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
 #include "qfx/LayerWriter.h"

@@ -7,10 +7,10 @@
 #include "Version.h"
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 #include "ndd/NddTokens.h"
 

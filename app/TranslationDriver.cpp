@@ -3,16 +3,16 @@
 #include <cstdio>
 
 #include "app/ModelReport.h"
-#include "app/Progress.h"
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
+#include "model/Progress.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
 #include "app/TranslationLog.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 #include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/TraceCleanup.h"
 #include "ibis/CircuitWriter.h"
@@ -20,7 +20,7 @@
 #include "ibis/Parts.h"
 #include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
@@ -247,7 +247,8 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "ParsePadDef");
     ParsePadDef(inputFile);
     TraceStep(true, "ParseVia");
-    if (!ParseVia(inputFile)) return FailPipeline();
+    // The via lines first; pins of placed parts follow as further vias.
+    if (!ParseVia(inputFile) || !PlacePins()) return FailPipeline();
     RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;

@@ -3,9 +3,9 @@
 #include <ctime>
 
 #include "Version.h"
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/Platform.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 int g_bLogHasWarnings = 0;

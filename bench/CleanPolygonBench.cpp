@@ -6,7 +6,7 @@
 
 #include "geometry/CleanPolygon.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -5,16 +5,16 @@
 #include <cstdio>
 #include <string>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "base/TextFile.h"
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/IbisReader.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/ModelAssignment.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

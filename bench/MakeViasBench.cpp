@@ -3,10 +3,10 @@
 
 #include <random>
 
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "qfx/MakeVias.h"
 
 namespace {

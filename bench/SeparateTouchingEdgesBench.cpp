@@ -8,8 +8,8 @@
 
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/FinishShapes.h"
-#include "ndd/LayoutModel.h"
+#include "geometry/FinishShapes.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -4,13 +4,13 @@
 #include <cstdio>
 #include <string>
 
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
 #include "geometry/TraceCleanup.h"
 #include "ndd/HkpReader.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 

@@ -9,10 +9,10 @@
 #include <memory>
 #include <string>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/TraceReader.h"

@@ -8,8 +8,8 @@
 
 #include "app/LogLoader.h"
 #include "app/TranslationLog.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

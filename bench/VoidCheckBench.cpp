@@ -6,7 +6,7 @@
 #include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

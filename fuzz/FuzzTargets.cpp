@@ -11,10 +11,10 @@
 #include <vector>
 
 #include "app/LogLoader.h"
-#include "app/TraceStep.h"
+#include "model/TraceStep.h"
 #include "app/TranslationDriver.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 
 namespace fuzz {

@@ -4,13 +4,13 @@
 #include <map>
 #include <vector>
 
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/TraceInVoid.h"
 #include "geometry/VoidTraceGrid.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "geometry/EdgesOverlap.h"
 #include "geometry/PointInShape.h"
 #include "geometry/SlitCandidates.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // Removing points that lie on the line through their two ring neighbours.
 #include <cstdint>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // Distance from the line through the neighbours below which a point is dropped.
 constexpr double kCollinearDistance = 1e-4;

@@ -2,7 +2,7 @@
 // Do two edges of one polygon run on one line and share a stretch? Used to find slits.
 #include <cstdint>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // Cross product of the edges, (Q - A) x d and (R - A) x d, that still counts as "on one line".
 constexpr double kEdgeOverlapCross = 1e-8;

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "geometry/SegmentRectangle.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

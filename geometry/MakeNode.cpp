@@ -1,8 +1,8 @@
 #include "geometry/MakeNode.h"
 
-#include "geometry/NodeSet.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "geometry/ShapeBoxes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 // PointInPolygonStrict allows 3e-14 and tells a point on the outline apart.
 #include <cstdint>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // 1 when (x, y) lies in shape i or on its outline, else 0. With useBox a point outside the
 // shape's bounding box answers 0 at once (on the box counts as in).

@@ -1,10 +1,10 @@
 #include "geometry/PointOnNetShape.h"
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

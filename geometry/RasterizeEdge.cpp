@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "geometry/RasterizeEdge.h"
 #include "geometry/ShapeArea.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 double SignedFanSum(const ShapePoint* points, int32_t count) {
     double sum = 0.0;

@@ -2,7 +2,7 @@
 // Areas of the shapes of the shared table, in mm².
 #include <cstdint>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 constexpr double kPi = 3.141592653589793;
 

@@ -1,6 +1,6 @@
 #include "geometry/ShapeBoxes.h"
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 BoundingBox ComputeShapeBox(const ShapeRec& shape) {
     BoundingBox box;

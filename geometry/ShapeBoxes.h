@@ -2,7 +2,7 @@
 // Bounding boxes of the shapes, kept by table index next to the sorted shape table.
 #include <cstdint>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // A circle's box is its centre +- the radius; a polygon's covers all its points, and with fewer
 // than 2 points it is its first point (all zero with none).

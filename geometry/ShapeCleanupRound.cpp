@@ -3,8 +3,8 @@
 #include "geometry/CleanPolygon.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/SortShapes.h"
-#include "ndd/FinishShapes.h"
-#include "ndd/LayoutModel.h"
+#include "geometry/FinishShapes.h"
+#include "model/LayoutModel.h"
 
 void RunShapeCleanupRound() {
     const int32_t count = g_model.ShapeCount();

@@ -5,7 +5,7 @@
 
 #include "geometry/ShapeBoxes.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

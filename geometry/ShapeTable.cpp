@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 int32_t AppendShape(ShapeRec shape, const std::vector<ShapePoint>& points) {
     auto& table = g_model.g_aShapePoints;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // Appends shape with the given points behind all others; firstPoint and pointCount are set
 // here. Returns the new shape's index.

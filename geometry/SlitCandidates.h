@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 class SlitCandidates {
   public:

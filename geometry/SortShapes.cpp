@@ -6,7 +6,7 @@
 
 #include "geometry/ShapeArea.h"
 #include "geometry/ShapeBoxes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

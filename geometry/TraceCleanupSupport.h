@@ -2,8 +2,8 @@
 // Small helpers shared by the trace clean-up passes.
 #include <cstdint>
 
-#include "geometry/NodeRec.h"
-#include "ndd/TraceRec.h"
+#include "model/NodeRec.h"
+#include "model/TraceRec.h"
 
 // Lowers a node's trace references by count, not below 0.
 inline void LowerTraceRefs(NodeRec& node, int count) {

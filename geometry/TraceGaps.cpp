@@ -1,15 +1,15 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/TraceStep.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/SegmentRectangle.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

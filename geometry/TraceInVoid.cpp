@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeBoxes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // Tolerance of the crossing parameters and of the point test.
 constexpr double kTraceParamTolerance = 3e-14;

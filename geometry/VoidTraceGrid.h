@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // A trace's two ends; known is false when a node could not be found.
 struct TraceEnds {

@@ -3,7 +3,7 @@
 // the node binding, the circuit writer and the linkage writer each clear the component's
 // active flag before they test it, and that one assignment is what keeps IBIS circuit
 // output off. The active form is complete behind it; tests reach it through the switch.
-#include "ibis/ComponentRecords.h"
+#include "model/ComponentRecords.h"
 
 // Test builds only: when set, components keep their active flag.
 extern bool g_bKeepActiveFormForTests;

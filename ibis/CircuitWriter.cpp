@@ -4,7 +4,7 @@
 #include <cstring>
 #include <vector>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentValue.h"
 #include "ibis/ModelAssignment.h"

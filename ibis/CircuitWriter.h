@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "ibis/ComponentRecords.h"
+#include "model/ComponentRecords.h"
 
 class ModelAssignment;
 

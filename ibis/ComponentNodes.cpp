@@ -5,12 +5,12 @@
 #include <cstdio>
 #include <utility>
 
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/IbisReader.h"
 #include "ibis/PinRotation.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 

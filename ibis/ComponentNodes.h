@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "base/StringMap.h"
-#include "geometry/NodeRec.h"
-#include "ibis/ComponentRecords.h"
+#include "model/NodeRec.h"
+#include "model/ComponentRecords.h"
 
 class ModelAssignment;
 

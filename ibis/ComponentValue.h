@@ -1,6 +1,6 @@
 #pragma once
 // Passive or active, and the value of a passive element in the solver's unit letters.
-#include "ibis/ComponentRecords.h"
+#include "model/ComponentRecords.h"
 
 // Two pins: passive, kind from the designator ("R1" gives "R"), "?" otherwise. Any other
 // pin count: active, kind "?".

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/ModelAssignment.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/StringMap.h"
-#include "ibis/ComponentRecords.h"
+#include "model/ComponentRecords.h"
 
 class ModelAssignment {
   public:

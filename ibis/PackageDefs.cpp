@@ -1,7 +1,7 @@
 #include <string_view>
 
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "base/Platform.h"
 #include "ibis/Parts.h"
 #include "ibis/PropertyNames.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 namespace {

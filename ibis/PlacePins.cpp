@@ -1,11 +1,11 @@
 #include <new>
 
-#include "app/ReportMessage.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
 #include "ibis/Parts.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/ViaPass.h"

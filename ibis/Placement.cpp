@@ -3,8 +3,8 @@
 #include "ibis/Parts.h"
 #include "ibis/PinRotation.h"
 #include "ibis/PropertyNames.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 namespace {

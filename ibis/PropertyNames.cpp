@@ -1,7 +1,7 @@
 #include "ibis/PropertyNames.h"
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 std::string ValuePropertyName() {

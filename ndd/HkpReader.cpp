@@ -3,11 +3,11 @@
 #include <string>
 #include <utility>
 
-#include "app/ReportMessage.h"
-#include "app/TranslationOptions.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

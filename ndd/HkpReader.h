@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // Reads g_strHkpFile; an empty path does nothing. A file that cannot be opened is reported
 // and the translation goes on.

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <limits>
 
-#include "app/ReportMessage.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TokenList.h"

@@ -1,6 +1,6 @@
 #include "ndd/NddInput.h"
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 bool LoadNddInput(const std::string& path, base::LoadStatus* status) {
     g_model.inputText = base::LoadTextFile(path, status);

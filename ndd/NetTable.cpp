@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/TextFile.h"
-#include "ndd/PadRecords.h"
+#include "model/PadRecords.h"
 
 // Reads every "%paddef" record's boundary into the model's pad boundary map.
 void ParsePadDef(const std::string& path);

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/TextFile.h"
-#include "ndd/PadRecords.h"
+#include "model/PadRecords.h"
 
 // Words of a record that may run over several lines. The stream pointer is the pass's own:
 // it becomes null when the file ends or a line without a token is met, which ends the pass.

@@ -2,8 +2,8 @@
 
 #include <unordered_set>
 
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 const char kDefaultLibLayer[] = "%defaultliblayer";

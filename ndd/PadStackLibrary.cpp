@@ -1,7 +1,7 @@
 // The padstack library pass: "%padstackdef" records with their layer entries and pads.
 #include <memory>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/PadLibrary.h"

@@ -7,9 +7,9 @@
 #include <cstring>
 #include <vector>
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TokenList.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/TextFile.h"
-#include "ndd/PadRecords.h"
+#include "model/PadRecords.h"
 
 // Fills the model's padstack size list and map from the "%padstackdef" records of path.
 void ParsePadStackSizes(const std::string& path);

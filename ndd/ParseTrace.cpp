@@ -1,9 +1,9 @@
 #include <string>
 
-#include "app/Progress.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayerLookup.h"
-#include "ndd/LayoutModel.h"
+#include "model/Progress.h"
+#include "model/TranslationOptions.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TraceReader.h"

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <new>
 
-#include "app/TranslationOptions.h"
+#include "model/TranslationOptions.h"
 #include "geometry/ShapeArea.h"
 #include "ndd/ShapeRoutines.h"
 

@@ -1,6 +1,6 @@
 #include "ndd/ShapeFields.h"
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 std::vector<std::string> FieldsAfter(std::string_view line, std::string_view keyword) {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // The fields after keyword on the line (from the line's start when keyword is not in it), as
 // NddGetToken gives them: a glued ';' is cut, and a lone ";" ends the record.

@@ -1,7 +1,7 @@
 #include "ndd/ShapeRoutines.h"
 
 #include "geometry/ShapeTable.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "ndd/ShapeFields.h"
 

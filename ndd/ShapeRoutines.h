@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/TextFile.h"
-#include "ndd/ShapeRec.h"
+#include "model/ShapeRec.h"
 
 // "%circle" x y d: the size is all that follows y on the line except its last three
 // characters (taken to be a blank, the ';' and the line feed), so "100;" reads as 10. Stored

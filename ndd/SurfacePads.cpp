@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "ndd/Units.h"
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 

@@ -1,7 +1,7 @@
 #include "qfx/LayerWriter.h"
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

@@ -1,7 +1,7 @@
 #include "qfx/Naming.h"
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 
 const std::string& Affix() {
     return g_options.g_strNameAffix;

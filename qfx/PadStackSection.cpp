@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "qfx/Naming.h"
 

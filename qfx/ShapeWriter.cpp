@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

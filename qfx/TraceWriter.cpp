@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/NodeSet.h"
+#include "model/LayoutModel.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

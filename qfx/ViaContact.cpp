@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
-#include "ndd/PadRecords.h"
+#include "model/PadRecords.h"
 
 namespace {
 

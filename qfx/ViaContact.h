@@ -6,7 +6,7 @@
 #include "geometry/ShapeBoxes.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/ShapeTable.h"
-#include "ndd/ViaRec.h"
+#include "model/ViaRec.h"
 
 constexpr int32_t kNoShape = -1;
 

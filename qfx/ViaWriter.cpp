@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/TranslationOptions.h"
+#include "model/LayoutModel.h"
 #include "qfx/Naming.h"
 
 namespace {

@@ -9,9 +9,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/TraceStep.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 
 namespace testing_support {
 
@@ -31,6 +31,8 @@ static void KeepDecks(const std::string& path) {
     const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
     if (!keep || !*keep || !test) return;
     std::string prefix = std::string(test->test_suite_name()) + "." + test->name() + ".";
+    for (char& c : prefix)
+        if (c == '/') c = '_';
     std::string cmd = "cd '" + path +
                       "' && for f in $(find . -maxdepth 2 -name '*.qfx' -type f); do "
                       "cp \"$f\" '" +

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 using namespace testing_support;
 
@@ -84,102 +84,6 @@ TEST(LogLoader, NetLinesSelectNetsWithTheirColours) {
     EXPECT_EQ(g_options.g_pNetColors, (std::vector<int32_t>{9, 0, 3, 4}));
 }
 
-TEST(LogLoader, LogWithoutNetBlockMeansAllNets) {
-    StartBatchRun();
-    ScratchDir dir;
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tTranslate pads\n").ok);
-    EXPECT_EQ(g_options.g_bAllNets, 1);
-    EXPECT_EQ(g_options.g_bSelectedOnly, 0);
-    EXPECT_EQ(g_options.g_bAllNetsFromLog, 1);
-}
-
-TEST(LogLoader, OlderWordingsLoadAsTheNewerOnes) {
-    StartBatchRun();
-    ScratchDir dir;
-    g_options.g_nIncludeNoNetEtches = 1;
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tExclude etches with no net names\n"
-                                               "\tExclude traces shorter than 0.300000 mm\n")
-                    .ok);
-    EXPECT_EQ(g_options.g_nIncludeNoNetEtches, 0);
-    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.3);
-
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tInclude etches with no net names\n"
-                                               "\tUnion traces shorter than 1.250000 mm\n")
-                    .ok);
-    EXPECT_EQ(g_options.g_nIncludeNoNetEtches, 1);
-    EXPECT_EQ(g_options.g_dbTraceUnionLength, 1.25);
-}
-
-TEST(LogLoader, ViaVoidLineAloneSetsTenSquareMillimetres) {
-    StartBatchRun();
-    ScratchDir dir;
-    ASSERT_TRUE(
-        Load(dir, std::string(kHead) + "\nSettings :\n\tExclude void shapes enclosing vias\n").ok);
-    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
-    EXPECT_EQ(g_options.g_dbViaVoidArea, 10.0);
-
-    ASSERT_TRUE(Load(dir, std::string(kHead) +
-                              "\nSettings :\n\tExclude void shapes enclosing vias with area less "
-                              "than 2.500000 mm x mm\n")
-                    .ok);
-    EXPECT_EQ(g_options.g_dbViaVoidArea, 2.5);
-}
-
-TEST(LogLoader, NumbersAreReadAtFixedCharacterPositions) {
-    StartBatchRun();
-    ScratchDir dir;
-    // Position 27 of the union line is the second character behind its words, and so on.
-    ASSERT_TRUE(Load(dir, std::string(kHead) +
-                              "\nSettings :\n"
-                              "\tUnion traces shorter than1.5 mm\n"
-                              "\tExclude void shapes with area less than:2 mm x mm\n"
-                              "\tMaximum arc length replaced by line segment:0.75 mm\n"
-                              "\tExclude void shapes enclosing vias, older form\n")
-                    .ok);
-    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.5);
-    EXPECT_EQ(g_options.g_dbVoidAreaLimit, 2.0);
-    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.75);
-    // A longer via line that is not the newer wording keeps the 10.0 of the short one.
-    EXPECT_EQ(g_options.g_dbViaVoidArea, 10.0);
-    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
-
-    // A line that stops at its words reads as 0.
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tUnion traces shorter than\n").ok);
-    EXPECT_EQ(g_options.g_dbTraceUnionLength, 0.0);
-}
-
-TEST(LogLoader, NameAffixKeepsFourCharacters) {
-    StartBatchRun();
-    ScratchDir dir;
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tName affix : ABCDEF\n").ok);
-    EXPECT_EQ(g_options.g_strNameAffix, "ABCD");
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nSettings :\n\tName affix : X_\n").ok);
-    EXPECT_EQ(g_options.g_strNameAffix, "X_");
-}
-
-TEST(LogLoader, ArcLengthOutOfBoundsComesOutAsTheDefault) {
-    StartBatchRun();
-    ScratchDir dir;
-    const std::string arc = "\nSettings :\n\tMaximum arc length replaced by line segment ";
-    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "5000.000000 mm\n").ok);
-    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.2);
-    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "0.000500 mm\n").ok);
-    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.2);
-    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "1000.000000 mm\n").ok);
-    EXPECT_EQ(g_options.g_dbMaxArcLength, 1000.0);
-    ASSERT_TRUE(Load(dir, std::string(kHead) + arc + "0.001000 mm\n").ok);
-    EXPECT_EQ(g_options.g_dbMaxArcLength, 0.001);
-}
-
-TEST(LogLoader, FirstLineEmptyIsPassedOver) {
-    StartBatchRun();
-    ScratchDir dir;
-    ASSERT_TRUE(Load(dir, "\n\n" + std::string(kHead) + "\nSettings :\n\tName affix : Q\n").ok);
-    EXPECT_EQ(g_options.g_strNameAffix, "Q");
-    EXPECT_EQ(g_options.g_bLogLoaded, 1);
-    EXPECT_EQ(Reports(), "");
-}
-
 TEST(LogLoader, AFileThatIsNoLogChangesOnlyTheWriteFlags) {
     StartBatchRun();
     ScratchDir dir;
@@ -197,14 +101,6 @@ TEST(LogLoader, AFileThatIsNoLogChangesOnlyTheWriteFlags) {
     EXPECT_EQ(g_options.g_bLogLoaded, 0);
     EXPECT_EQ(r.input, "a.ndd");
     EXPECT_EQ(r.output, "b.qfx");
-}
-
-TEST(LogLoader, MissingFileIsReported) {
-    StartBatchRun();
-    std::string input = "a.ndd", output;
-    EXPECT_FALSE(LoadLogFile("/nonexistent/prev.log", input, output));
-    EXPECT_EQ(Reports(), "Cannot open the specified file : /nonexistent/prev.log\n");
-    EXPECT_EQ(g_options.g_bLogLoaded, 0);
 }
 
 TEST(LogLoader, HeadPathsAcceptBothSeparatorsAndReplaceOnlyWhenDifferent) {
@@ -228,46 +124,6 @@ TEST(LogLoader, HeadPathsAcceptBothSeparatorsAndReplaceOnlyWhenDifferent) {
     EXPECT_EQ(r.output, "/x/a.b.qfx");
 }
 
-TEST(LogLoader, SettingsRestoreWhatTheLogSays) {
-    StartBatchRun();
-    ScratchDir dir;
-    g_options.g_bAllowPatches = 0;
-    g_options.g_bColorShapesByNet = 0;
-    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
-    const std::string log = std::string(kHead) +
-                            "\nSettings :\n"
-                            "\tNo signal traces on Power Plane\n"
-                            "\tALLOW PATCHES ON SIGNAL LAYERS\n"
-                            "\tDistinguish shapes of different nets by color\n"
-                            "\tExclude void shapes with area less than 0.750000 mm x mm\n"
-                            "\tTranslate component linkages\n"
-                            "\tGenerate Gap around Traces with Gap Size in terms of percentage of "
-                            "Trace Width : 25 extra\n"
-                            "\tName of the Data Field for Component Values :PART_VALUE\n"
-                            "\tSpatial range : (1.500000, -2.000000) -- (30.250000, 40.000000)    "
-                            "Unit : mm\n"
-                            "\tUnknown line is ignored\n"
-                            "\n"
-                            "\tName affix : LATE\n";
-    ASSERT_TRUE(Load(dir, log).ok);
-    const TranslationOptions& o = g_options;
-    EXPECT_EQ(o.g_bAllowSignalOnPlane, 0);
-    EXPECT_EQ(o.g_bAllowPatches, 1);
-    EXPECT_EQ(o.g_bColorShapesByNet, 1);
-    EXPECT_EQ(o.g_dbVoidAreaLimit, 0.75);
-    EXPECT_EQ(o.g_bTranslateLinkages, 1);
-    EXPECT_EQ(o.g_bWriteLinkages, 1);
-    EXPECT_EQ(o.g_strTraceGapPercent, "25");
-    EXPECT_EQ(o.g_strValueFieldName, "PART_VALUE");
-    EXPECT_EQ(o.g_bSpatialLimit, 1);
-    EXPECT_EQ(o.g_dbSpatialMinX, 1.5);
-    EXPECT_EQ(o.g_dbSpatialMinY, -2.0);
-    EXPECT_EQ(o.g_dbSpatialMaxX, 30.25);
-    EXPECT_EQ(o.g_dbSpatialMaxY, 40.0);
-    // The settings block ends at its first empty line.
-    EXPECT_EQ(o.g_strNameAffix, "");
-}
-
 TEST(LogLoader, LoadNormalisesTheRecordBeforeTheSettings) {
     StartBatchRun();
     ScratchDir dir;
@@ -279,17 +135,6 @@ TEST(LogLoader, LoadNormalisesTheRecordBeforeTheSettings) {
     EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 0);
     EXPECT_EQ(g_options.g_dbSpatialMaxY, 9.0);
     EXPECT_EQ(g_options.g_bTranslateTraces, 1);
-}
-
-TEST(LogLoader, LayerBlockIsSkippedUpToTheSettings) {
-    StartBatchRun();
-    ScratchDir dir;
-    ASSERT_TRUE(Load(dir, std::string(kHead) + "\nNets Translated : \n\tCLK\tred\n"
-                                               "Layer Arrangement : \n\tName affix : NO\n"
-                                               "\nSettings :\n\tName affix : YES\n")
-                    .ok);
-    EXPECT_EQ(g_options.g_strNameAffix, "YES");
-    EXPECT_EQ(g_options.g_lstLogNets, std::vector<std::string>{"CLK"});
 }
 
 TEST(LogLoader, LongLinesComeInPiecesOfTheLogBuffer) {

@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "TestSupport.h"
-#include "app/ReportMessage.h"
-#include "app/TraceStep.h"
-#include "app/TranslationOptions.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 
@@ -37,31 +37,6 @@ class TraceStepTest : public ::testing::Test {
     }
     ScratchDir dir;
 };
-
-TEST_F(TraceStepTest, EachRunStartsTheNextFreeNumberedFile) {
-    TraceStep(false, "start %d", 1);
-    EXPECT_EQ(TraceStepPath(), dir.File("debug_bm.log"));
-    TraceStep(true, nullptr);
-    ResetTraceStep();
-    TraceStep(false, "again");
-    EXPECT_EQ(TraceStepPath(), dir.File("debug_bm1.log"));
-    std::string first = ReadFile(dir.File("debug_bm.log"));
-    // "Www Mmm dd hh:mm:ss yyyy: text" for each line.
-    auto lines = testing_support::SplitLines(first);
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_EQ(lines[0].substr(24), ": start 1");
-    EXPECT_EQ(lines[1].substr(24), ": ...");
-}
-
-TEST_F(TraceStepTest, KeepBenchmarkNoOrZeroSwitchesItOff) {
-    for (const char* value : {"no", "0", "NO"}) {
-        ResetTraceStep();
-        setenv("KEEP_BENCHMARK", value, 1);
-        TraceStep(false, "nothing");
-        EXPECT_EQ(TraceStepPath(), "");
-    }
-    EXPECT_EQ(testing_support::ReadFile(dir.File("debug_bm.log")), "");
-}
 
 TEST_F(TraceStepTest, LongTextIsCutToTheBuffer) {
     std::string big(5000, 'z');

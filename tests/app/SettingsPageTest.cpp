@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 using namespace testing_support;
 

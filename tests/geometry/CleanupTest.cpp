@@ -2,15 +2,15 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/CleanPolygon.h"
+#include "geometry/FinishShapes.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeCleanupRound.h"
-#include "geometry/ShapeFixtures.h"
 #include "geometry/SortShapes.h"
-#include "ndd/FinishShapes.h"
 
-using namespace shape_fixtures;
+using namespace fixtures;
 
 namespace {
 
@@ -18,7 +18,7 @@ class Cleanup : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        SetUpLayers({"TOP", "GND"});
+        fixtures::MakeSignalLayers({"TOP", "GND"});
     }
 };
 
@@ -36,7 +36,7 @@ const std::vector<ShapePoint> kKeyhole{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 5
                                        {7, 7}, {7, 3},  {3, 3},   {3, 5},  {0, 5}, {0, 0}};
 
 TEST_F(Cleanup, KeyholeSlitBecomesTwoShapesWithTheHoleOfOppositePolarity) {
-    AddPolygon(0, 1, kPolarityCopper, kKeyhole);
+    AddPolygon(0, kPolarityCopper, 1, kKeyhole);
     CleanPolygon(0);
     ASSERT_EQ(2, g_model.ShapeCount());
     EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[0].polarity);
@@ -50,14 +50,14 @@ TEST_F(Cleanup, KeyholeSlitBecomesTwoShapesWithTheHoleOfOppositePolarity) {
 }
 
 TEST_F(Cleanup, KeyholeOfAVoidGivesACopperIsland) {
-    AddPolygon(0, 1, kPolarityVoid, kKeyhole);
+    AddPolygon(0, kPolarityVoid, 1, kKeyhole);
     CleanPolygon(0);
     ASSERT_EQ(2, g_model.ShapeCount());
     EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
 }
 
 TEST_F(Cleanup, RoundSortsTheHoleBeforeTheRingAndDropsTheSlitFoot) {
-    AddPolygon(0, 1, kPolarityCopper, kKeyhole);
+    AddPolygon(0, kPolarityCopper, 1, kKeyhole);
     RunShapeCleanupRound();
     ASSERT_EQ(2, g_model.ShapeCount());
     EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[0].polarity);
@@ -74,8 +74,8 @@ TEST_F(Cleanup, RoundSortsTheHoleBeforeTheRingAndDropsTheSlitFoot) {
 }
 
 TEST_F(Cleanup, CollinearPointIsDroppedBelowTheToleranceAndKeptAbove) {
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {5, 0.00009}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
+    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {5, 0.00009}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
+    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
     CleanPolygon(0);
     CleanPolygon(1);
     // The repeated closing point goes first: its neighbours are itself and the next point.
@@ -84,75 +84,65 @@ TEST_F(Cleanup, CollinearPointIsDroppedBelowTheToleranceAndKeptAbove) {
 }
 
 TEST_F(Cleanup, RectangleLosesItsMidEdgePoint) {
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 2}, {0, 4}, {3, 4}, {3, 0}});
+    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {0, 2}, {0, 4}, {3, 4}, {3, 0}});
     CleanPolygon(0);
     ExpectPoints({{0, 0}, {0, 4}, {3, 4}, {3, 0}}, 0);
 }
 
-// Copper square 0..10 of net 1 and a neighbour 10..20 that shares its right edge.
-void AddNeighbours(int32_t net2, int32_t polarity2) {
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {10, 0}, {10, 10}, {0, 10}});
-    AddPolygon(0, net2, polarity2, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-}
-
-TEST_F(Cleanup, SplitPieceAndCopperSharingAnEdgeBothMoveInward) {
-    AddNeighbours(1, kPolaritySplit);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
-}
-
-TEST_F(Cleanup, CopperOfTwoNetsSharingAnEdgeBothMoveInward) {
-    AddNeighbours(2, kPolarityCopper);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10.1, 0}, {20, 0}, {20, 10}, {10.1, 10}}, 1);
-}
-
-TEST_F(Cleanup, VoidNeverMovesButMarksTheCopperEdgeItTouches) {
-    AddNeighbours(1, kPolarityVoid);
-    ExpectPoints({{0, 0}, {9.9, 0}, {9.9, 10}, {0, 10}}, 0);
-    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
-}
-
-TEST_F(Cleanup, TwoFillsOfOneNetSharingAnEdgeAreLeftAlone) {
-    AddNeighbours(1, kPolarityCopper);
-    ExpectPoints({{0, 0}, {10, 0}, {10, 10}, {0, 10}}, 0);
-    ExpectPoints({{10, 0}, {20, 0}, {20, 10}, {10, 10}}, 1);
-}
-
-TEST_F(Cleanup, ClockwiseRingMovesIntoItselfToo) {
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 10}, {10, 10}, {10, 0}});
-    AddPolygon(0, 2, kPolarityCopper, {{10, 0}, {20, 0}, {20, 10}, {10, 10}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {0, 10}, {9.9, 10}, {9.9, 0}}, 0);
-}
-
-TEST_F(Cleanup, NarrowNeighbourEdgesLimitTheMoveToTheirMidpoints) {
-    // A sliver 0.1 wide on top: its short sides stop the moved edge at their midpoints.
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {10, 0}, {10, 0.1}, {0, 0.1}});
-    AddPolygon(0, 2, kPolarityCopper, {{0, 0.1}, {10, 0.1}, {10, 5}, {0, 5}});
-    SetLayerExtents();
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {10, 0}, {10, 0.05}, {0, 0.05}}, 0);
-    ExpectPoints({{0, 0.2}, {10, 0.2}, {10, 5}, {0, 5}}, 1);
-}
-
-TEST_F(Cleanup, FlatLayerHasNoGridAndNothingMoves) {
-    AddPolygon(0, 1, kPolarityCopper, {{0, 0}, {0, 5}, {0, 10}});
-    AddPolygon(0, 2, kPolarityCopper, {{0, 10}, {0, 5}, {0, 0}});
-    SetLayerExtents();
+// Two shapes sharing an edge on one layer, after the edge separation (see ShapesAsText): copper
+// of another net or a split piece moves inward by 0.1, a void never moves but makes the copper
+// move, two fills of one net stay; a narrow neighbour limits the move to its edges' midpoints.
+TEST_F(Cleanup, TouchingEdgesMoveApart) {
+    using Points = std::vector<ShapePoint>;
+    const Points square{{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+    const Points right{{10, 0}, {20, 0}, {20, 10}, {10, 10}};
+    const struct {
+        Points first;
+        int32_t net2, polarity2;
+        Points second;
+        const char* shapes;
+    } rows[] = {
+        {square, 1, kPolaritySplit, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N1 Ps 10.1,0 20,0 20,10 10.1,10\n"},
+        {square, 2, kPolarityCopper, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N2 P+ 10.1,0 20,0 20,10 10.1,10\n"},
+        {square, 1, kPolarityVoid, right,
+         "L0 N1 P+ 0,0 9.9,0 9.9,10 0,10\nL0 N1 P- 10,0 20,0 20,10 10,10\n"},
+        {square, 1, kPolarityCopper, right,
+         "L0 N1 P+ 0,0 10,0 10,10 0,10\nL0 N1 P+ 10,0 20,0 20,10 10,10\n"},
+        {{{0, 0}, {0, 10}, {10, 10}, {10, 0}},
+         2,
+         kPolarityCopper,
+         right,
+         "L0 N1 P+ 0,0 0,10 9.9,10 9.9,0\nL0 N2 P+ 10.1,0 20,0 20,10 10.1,10\n"},
+        {{{0, 0}, {10, 0}, {10, 0.1}, {0, 0.1}},
+         2,
+         kPolarityCopper,
+         {{0, 0.1}, {10, 0.1}, {10, 5}, {0, 5}},
+         "L0 N1 P+ 0,0 10,0 10,0.05 0,0.05\nL0 N2 P+ 0,0.2 10,0.2 10,5 0,5\n"},
+        // A flat layer has no grid: nothing moves.
+        {{{0, 0}, {0, 5}, {0, 10}},
+         2,
+         kPolarityCopper,
+         {{0, 10}, {0, 5}, {0, 0}},
+         "L0 N1 P+ 0,0 0,5 0,10\nL0 N2 P+ 0,10 0,5 0,0\n"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        AddPolygon(0, kPolarityCopper, 1, row.first);
+        AddPolygon(0, row.polarity2, row.net2, row.second);
+        SetLayerExtents();
+        SeparateTouchingEdges();
+        EXPECT_EQ(ShapesAsText(), row.shapes);
+    }
     EXPECT_EQ(0.0, g_model.g_aLayers[0].gridX);
-    SeparateTouchingEdges();
-    ExpectPoints({{0, 0}, {0, 5}, {0, 10}}, 0);
 }
 
 TEST_F(Cleanup, SortPutsCopperFirstOnEqualAreasWithinALayer) {
-    AddPolygon(1, 1, kPolarityVoid, {{0, 0}, {1, 0}, {1, 1}, {0, 1}});
-    AddPolygon(1, 1, kPolarityCopper, {{5, 5}, {6, 5}, {6, 6}, {5, 6}});
-    AddPolygon(0, 1, kPolarityVoid, {{0, 0}, {4, 0}, {4, 4}, {0, 4}});
-    AddPolygon(-1, 1, kPolarityCopper, {{0, 0}, {2, 0}, {2, 2}, {0, 2}});
+    AddPolygon(1, kPolarityVoid, 1, {{0, 0}, {1, 0}, {1, 1}, {0, 1}});
+    AddPolygon(1, kPolarityCopper, 1, {{5, 5}, {6, 5}, {6, 6}, {5, 6}});
+    AddPolygon(0, kPolarityVoid, 1, {{0, 0}, {4, 0}, {4, 4}, {0, 4}});
+    AddPolygon(-1, kPolarityCopper, 1, {{0, 0}, {2, 0}, {2, 2}, {0, 2}});
     SortShapes();
     EXPECT_EQ(-1, g_model.g_aShapes[0].layer);
     EXPECT_EQ(0, g_model.g_aShapes[1].layer);
@@ -167,15 +157,15 @@ TEST_F(Cleanup, SortPutsCopperFirstOnEqualAreasWithinALayer) {
 }
 
 TEST_F(Cleanup, DegenerateShapesPassTheRoundSafely) {
-    AddPolygon(0, 1, kPolarityCopper, {{1, 1}});
-    AddPolygon(0, 1, kPolarityCopper, {{1, 1}, {2, 2}});
-    AddPolygon(0, 1, kPolarityCopper, {{3, 3}, {3, 3}, {3, 3}});  // chords of length 0
-    AddPolygon(0, 1, kPolarityCopper, {});
-    AddPolygon(1, 1, kPolarityCopper, {{0, 0}, {0, 0}, {0, 0}, {0, 0}});
-    AddPolygon(7, 1, kPolarityCopper, {{0, 0}, {1, 0}, {1, 1}});  // no such layer
-    AddPolygon(0, 1, kPolarityCopper,
+    AddPolygon(0, kPolarityCopper, 1, {{1, 1}});
+    AddPolygon(0, kPolarityCopper, 1, {{1, 1}, {2, 2}});
+    AddPolygon(0, kPolarityCopper, 1, {{3, 3}, {3, 3}, {3, 3}});  // chords of length 0
+    AddPolygon(0, kPolarityCopper, 1, {});
+    AddPolygon(1, kPolarityCopper, 1, {{0, 0}, {0, 0}, {0, 0}, {0, 0}});
+    AddPolygon(7, kPolarityCopper, 1, {{0, 0}, {1, 0}, {1, 1}});  // no such layer
+    AddPolygon(0, kPolarityCopper, 1,
                {{NAN, 0}, {1, INFINITY}, {2, 2}, {-INFINITY, 0}, {NAN, NAN}});
-    AddCircle(0, 1, 0, 0, 0);
+    AddCircle(0, kPolarityCopper, 1, 0, 0, 0);
     RunShapeCleanupRound();
     RunShapeCleanupRound();
     EXPECT_EQ(8, g_model.ShapeCount());
@@ -209,7 +199,7 @@ std::vector<ShapePoint> CombOfKeyholes(int holes) {
 
 TEST_F(Cleanup, ManySlitsOfALargeRingEachGiveAHole) {
     std::vector<ShapePoint> comb = CombOfKeyholes(9);
-    AddPolygon(0, 1, kPolarityCopper, comb);
+    AddPolygon(0, kPolarityCopper, 1, comb);
     CleanPolygon(0);
     ASSERT_EQ(10, g_model.ShapeCount());
     // The ring keeps the saw teeth, the top corners and each slit's top point once.

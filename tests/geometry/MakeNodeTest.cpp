@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 int32_t Node(double x, int32_t net, int32_t layer = 0) {
     return AddNode(nullptr, x, 0.0, layer, net, 1, nullptr, 0.0);

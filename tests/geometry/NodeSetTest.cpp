@@ -1,9 +1,9 @@
-#include "geometry/NodeSet.h"
+#include "model/NodeSet.h"
 
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/EdgesOverlap.h"
 #include "geometry/EquivalentRadius.h"
@@ -10,9 +11,8 @@
 #include "geometry/SegmentRectangle.h"
 #include "geometry/ShapeArea.h"
 #include "geometry/ShapeBoxes.h"
-#include "geometry/ShapeFixtures.h"
 
-using namespace shape_fixtures;
+using namespace fixtures;
 
 namespace {
 
@@ -20,14 +20,14 @@ class Primitives : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        SetUpLayers({"TOP"});
+        fixtures::MakeSignalLayers({"TOP"});
     }
 };
 
 const std::vector<ShapePoint> kSquare{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}};
 
 TEST_F(Primitives, PointOnEdgeIsInsideForPointInShapeAndOnOutlineForStrict) {
-    int32_t i = AddPolygon(0, 0, kPolarityCopper, kSquare);
+    int32_t i = AddPolygon(0, kPolarityCopper, 0, kSquare);
     BuildShapeBoxes();
     EXPECT_EQ(1, PointInShape(i, 10, 5, false));   // right edge
     EXPECT_EQ(1, PointInShape(i, 0, 5, true));     // left edge, on the box
@@ -56,7 +56,7 @@ TEST_F(Primitives, PointOnEdgeIsInsideForPointInShapeAndOnOutlineForStrict) {
 TEST_F(Primitives, PointLevelWithHorizontalEdgeAnswersAsJustAbove) {
     // A notch: the level edge from (4,6) to (8,6) has a point left and right of it.
     int32_t i =
-        AddPolygon(0, 0, kPolarityCopper,
+        AddPolygon(0, kPolarityCopper, 0,
                    {{0, 0}, {10, 0}, {10, 10}, {8, 10}, {8, 6}, {4, 6}, {4, 10}, {0, 10}, {0, 0}});
     for (double x : {2.0, 9.0, 11.0, -1.0, 3.0})
         EXPECT_EQ(PointInShape(i, x, 6.0 + 1e-9, false), PointInShape(i, x, 6.0, false)) << x;
@@ -67,10 +67,10 @@ TEST_F(Primitives, PointLevelWithHorizontalEdgeAnswersAsJustAbove) {
 }
 
 TEST_F(Primitives, TwoPointPolygonIsNeverInsideAndCircleCountsItsRim) {
-    int32_t line = AddPolygon(0, 0, kPolarityCopper, {{0, 0}, {10, 0}});
+    int32_t line = AddPolygon(0, kPolarityCopper, 0, {{0, 0}, {10, 0}});
     EXPECT_EQ(0, PointInShape(line, 0, 0, false));
     EXPECT_EQ(0, PointInShape(line, 5, 0, false));
-    int32_t c = AddCircle(0, 0, 1, 1, 2);
+    int32_t c = AddCircle(0, kPolarityCopper, 0, 1, 1, 2);
     BuildShapeBoxes();
     EXPECT_EQ(1, PointInShape(c, 3, 1, true));
     EXPECT_EQ(0, PointInShape(c, 3, 3, false));
@@ -78,11 +78,11 @@ TEST_F(Primitives, TwoPointPolygonIsNeverInsideAndCircleCountsItsRim) {
 }
 
 TEST_F(Primitives, AreaIgnoresTheClosingPoint) {
-    int32_t closed = AddPolygon(0, 0, 2, {{0, 0}, {0, 2}, {3, 2}, {3, 0}, {0, 0}});
-    int32_t open = AddPolygon(0, 0, 2, {{0, 0}, {0, 2}, {3, 2}, {3, 0}});
-    int32_t two = AddPolygon(0, 0, 2, {{0, 0}, {3, 2}});
-    int32_t none = AddPolygon(0, 0, 2, {});
-    int32_t circle = AddCircle(0, 0, 5, 5, 2);
+    int32_t closed = AddPolygon(0, 2, 0, {{0, 0}, {0, 2}, {3, 2}, {3, 0}, {0, 0}});
+    int32_t open = AddPolygon(0, 2, 0, {{0, 0}, {0, 2}, {3, 2}, {3, 0}});
+    int32_t two = AddPolygon(0, 2, 0, {{0, 0}, {3, 2}});
+    int32_t none = AddPolygon(0, 2, 0, {});
+    int32_t circle = AddCircle(0, kPolarityCopper, 0, 5, 5, 2);
     EXPECT_EQ(6.0, ShapeArea(closed));
     EXPECT_EQ(6.0, ShapeArea(open));
     EXPECT_EQ(0.0, ShapeArea(two));

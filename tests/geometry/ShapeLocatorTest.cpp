@@ -9,7 +9,7 @@
 #include "geometry/PointOnNetShape.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
 

@@ -7,14 +7,14 @@
 #include <random>
 #include <stdexcept>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/TraceReader.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/TraceWriter.h"
@@ -30,8 +30,8 @@ class TraceCleanupTest : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        testing_support::MakeLayerStack({{"TOP", kLayerSignal}});
-        testing_support::MakeNets({"CLK", "GND"});
+        fixtures::MakeLayerStack({{"TOP", kLayerSignal}});
+        fixtures::MakeNets({"CLK", "GND"});
     }
 
     static void Trace(double x1, double y1, double x2, double y2, int32_t net = kClk) {
@@ -324,7 +324,7 @@ TEST(ClearTinyTraces, GivesWhatTheWalkOverTheWholeTableGives) {
     int deleted = 0, moved = 0;
     for (int round = 0; round < 200; ++round) {
         testing_support::ResetGlobals();
-        testing_support::MakeLayerStack({{"TOP", kLayerSignal}});
+        fixtures::MakeLayerStack({{"TOP", kLayerSignal}});
         // Points on a small diagonal lattice: most traces measure tiny, ends are shared.
         std::uniform_int_distribution<int> pick(0, 12);
         auto coord = [&](int k) { return k * 0.05 + (k % 3) * 0.01; };

@@ -2,15 +2,16 @@
 
 #include <random>
 
-#include "ShapeTestSupport.h"
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
+
 #include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/TraceInVoid.h"
 
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // Signal 0, dielectric 1, plane 2.
 class VoidCheckTest : public ::testing::Test {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/ModelAssignment.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 using testing_support::CaptureOutput;
 using testing_support::ResetGlobals;
@@ -39,45 +39,39 @@ class CircuitWriterTest : public ::testing::Test {
         &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
 };
 
-TEST_F(CircuitWriterTest, ResistorBlockHasTerminalsElementAndEnd) {
-    AddComponent("R1", "RES", "RES 10K", {"1", "2"}).value = "10K";
-    models.ResolveModels();
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  RES_10K ExtNode = 1 2\n"
-              "R 1 2 10K\n"
-              ".EndPartialCkt\n"
-              "\n");
-    // A second writing gives the same text.
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  RES_10K ExtNode = 1 2\n"
-              "R 1 2 10K\n"
-              ".EndPartialCkt\n"
-              "\n");
-}
-
-TEST_F(CircuitWriterTest, AffixAndMarksInTheBlockName) {
-    g_options.g_strNameAffix = "A_";
-    AddComponent("C1", "CAP,X", "4.7uF", {"2", "1"});
-    models.ResolveModels();
-    EXPECT_EQ(*models.blocks.Keys().begin(), "CAP,X_4_7u");
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  A_CAP_X_4_7u ExtNode = 1 2\n"
-              "C 2 1 4.7u\n"
-              ".EndPartialCkt\n"
-              "\n");
-}
-
-TEST_F(CircuitWriterTest, UnknownKindGivesAnEmptyBlock) {
-    AddComponent("X1", "PN", "", {"1", "2"});
-    models.ResolveModels();
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  PN_PKG ExtNode = 1 2\n"
-              ".EndPartialCkt\n"
-              "\n");
+// One two-pin part and the block it gets: the name is the part number and the value (or the
+// package), marks become "_", the affix leads; the element line follows the kind.
+TEST_F(CircuitWriterTest, TwoPinPartsGiveTheseBlocks) {
+    const struct {
+        const char *refDes, *partNumber, *value, *affix;
+        std::vector<std::string> pins;
+        const char* block;
+    } rows[] = {
+        {"R1",
+         "RES",
+         "10K",
+         "",
+         {"1", "2"},
+         ".PartialCkt  RES_10K ExtNode = 1 2\nR 1 2 10K\n.EndPartialCkt\n"},
+        {"C1",
+         "CAP,X",
+         "4.7uF",
+         "A_",
+         {"2", "1"},
+         ".PartialCkt  A_CAP_X_4_7u ExtNode = 1 2\nC 2 1 4.7u\n.EndPartialCkt\n"},
+        {"X1", "PN", "", "", {"1", "2"}, ".PartialCkt  PN_PKG ExtNode = 1 2\n.EndPartialCkt\n"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        g_options.g_strNameAffix = row.affix;
+        AddComponent(row.refDes, row.partNumber, row.value, row.pins);
+        ModelAssignment assignment{
+            &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
+        assignment.ResolveModels();
+        const std::string want = std::string("* Circuit description block\n") + row.block + "\n";
+        EXPECT_EQ(Circuit(assignment), want) << row.refDes;
+        EXPECT_EQ(Circuit(assignment), want) << "the second writing of " << row.refDes;
+    }
 }
 
 TEST_F(CircuitWriterTest, ElementLineBreaksBehindEveryTenthName) {

@@ -28,19 +28,8 @@ PinRec& Pin(ComponentRec& c, const std::string& name) {
     return c.pins.front();
 }
 
-// The vendor file of the shared test data. The data folder sits beside the main checkout,
-// so from a worktree it is found by walking up from the source folder.
-std::string VendorIbisText() {
-    std::string relative = "/ibis/sn74lvc1g14.ibs";
-    std::string text = ReadFile(std::string(NDD2QFX_SHARED_DATA) + relative);
-    std::string dir = NDD2QFX_SOURCE_DIR;
-    for (size_t cut = dir.rfind('/'); text.empty() && cut != std::string::npos && cut > 0;
-         cut = dir.rfind('/')) {
-        dir.resize(cut);
-        text = ReadFile(dir + "/shared/data" + relative);
-    }
-    return text;
-}
+// A vendor's file, kept in tests/data/ibis (see the README there).
+const char kVendorFile[] = NDD2QFX_SOURCE_DIR "/tests/data/ibis/sn74lvc1g14.ibs";
 
 const char kMapped[] =
     "|****Lumora Modifed IBIS File****\n"
@@ -218,7 +207,7 @@ TEST(ParseIbisFile, FilesThatAreNoIbisAtAllReadWithoutHarm) {
 
 TEST(ParseIbisFile, VendorFileReadsTheFirstComponentsPinTable) {
     ScratchDir dir;
-    std::string text = VendorIbisText();
+    std::string text = ReadFile(kVendorFile);
     ASSERT_GT(text.size(), 200000u);
     std::string copy = dir.Write("sn74lvc1g14.ibs", text);
     ComponentRec c = Active({"1", "2", "3", "4", "5"}, copy);
@@ -248,7 +237,7 @@ TEST(ParseIbisFile, VendorFileReadsTheFirstComponentsPinTable) {
 
 TEST(ParseIbisFile, VendorFileModelTypesReachPinsNamedByModel) {
     ScratchDir dir;
-    std::string text = VendorIbisText();
+    std::string text = ReadFile(kVendorFile);
     // Point the first component's pins at real [Model] names.
     size_t row = text.find("2           A          LVC1G14_IN ");
     ASSERT_NE(row, std::string::npos);

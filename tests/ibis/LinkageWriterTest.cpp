@@ -1,15 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
-
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/ModelAssignment.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
 using testing_support::CaptureOutput;
@@ -18,20 +17,8 @@ using testing_support::ResetGlobals;
 namespace {
 
 void Nets(const std::vector<std::string>& sortedNames) {
-    for (const std::string& name : sortedNames) {
-        NetRec rec;
-        std::strncpy(rec.name, name.c_str(), kNetNameBytes - 1);
-        g_model.g_strNetNames.push_back(rec);
-    }
-    g_model.g_nNetCount = static_cast<int32_t>(sortedNames.size());
+    fixtures::SetNetNames(sortedNames);
     BuildDisplayNetNames();
-}
-
-void OneSignalLayer() {
-    g_model.g_aLayers.reset(new LayerRec[kMaxLayers]);
-    SetLayerName(g_model.g_aLayers[0], "TOP");
-    g_model.g_aLayers[0].kind = kLayerSignal;
-    g_model.g_nLayerCount = 1;
 }
 
 ComponentRec& TwoPinPart(const std::string& refDes, double x, double y, const std::string& net1,
@@ -54,7 +41,7 @@ class LinkageTest : public ::testing::Test {
   protected:
     void SetUp() override {
         ResetGlobals();
-        OneSignalLayer();
+        fixtures::MakeSignalLayers({"TOP"});
         Nets({"N1", "N2"});
     }
     void TearDown() override { g_bKeepActiveFormForTests = false; }
@@ -139,7 +126,7 @@ TEST_F(LinkageTest, NoNetNodesAndUnselectedNetsStayOut) {
 
     // With no-net elements included the pin binds and is linked without a net label.
     ResetGlobals();
-    OneSignalLayer();
+    fixtures::MakeSignalLayers({"TOP"});
     Nets({"N1", "N2"});
     g_options.g_nIncludeNoNetEtches = 1;
     AddNode(nullptr, 0.5, 2.0, 0, kNoNet, 0, nullptr, 0.0);
@@ -234,7 +221,7 @@ TEST_F(LinkageTest, ATraceAcrossThePadGivesThePinANode) {
 TEST_F(LinkageTest, ActiveFormSwitchedOnTiesIbisNodesAndPowerGroups) {
     g_bKeepActiveFormForTests = true;
     ResetGlobals();
-    OneSignalLayer();
+    fixtures::MakeSignalLayers({"TOP"});
     Nets({"N7", "VCC"});
     AddNode(nullptr, 1.0, 0.0, 0, 0, 0, nullptr, 0.0);  // node 0 under pin 7
     AddNode(nullptr, 3.0, 0.0, 0, 1, 0, nullptr, 0.0);  // node 1 under power pin 9

@@ -1,27 +1,16 @@
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 
 using testing_support::ResetGlobals;
 using testing_support::ScratchDir;
 
 namespace {
-
-// TOP signal, D1 dielectric, BOTTOM signal.
-void ThreeLayerStack() {
-    g_model.g_aLayers.reset(new LayerRec[kMaxLayers]);
-    const char* names[] = {"TOP", "D1", "BOTTOM"};
-    uint8_t kinds[] = {kLayerSignal, kLayerDielectric, kLayerSignal};
-    for (int i = 0; i < 3; ++i) {
-        SetLayerName(g_model.g_aLayers[i], names[i]);
-        g_model.g_aLayers[i].kind = kinds[i];
-    }
-    g_model.g_nLayerCount = 3;
-}
 
 std::unique_ptr<base::LineStream> Stream(const ScratchDir& dir, const std::string& text) {
     return OpenNdd(dir.Write("board.ndd", text));
@@ -103,7 +92,7 @@ class PlacementTest : public ::testing::Test {
   protected:
     void SetUp() override {
         ResetGlobals();
-        ThreeLayerStack();
+        fixtures::MakeThreeLayerStack();
         PackageDefRec pkg;
         pkg.name = "RES0603";
         PinRec a, b;

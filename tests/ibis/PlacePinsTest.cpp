@@ -2,11 +2,12 @@
 
 #include <cstring>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
 #include "ibis/Parts.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
 using testing_support::ResetGlobals;
@@ -17,20 +18,8 @@ class PlacePinsTest : public ::testing::Test {
   protected:
     void SetUp() override {
         ResetGlobals();
-        g_model.g_aLayers.reset(new LayerRec[kMaxLayers]);
-        const char* names[] = {"TOP", "D1", "BOTTOM"};
-        uint8_t kinds[] = {kLayerSignal, kLayerDielectric, kLayerSignal};
-        for (int i = 0; i < 3; ++i) {
-            SetLayerName(g_model.g_aLayers[i], names[i]);
-            g_model.g_aLayers[i].kind = kinds[i];
-        }
-        g_model.g_nLayerCount = 3;
-        for (const char* name : {"N1", "N2"}) {
-            NetRec rec;
-            std::strncpy(rec.name, name, kNetNameBytes - 1);
-            g_model.g_strNetNames.push_back(rec);
-        }
-        g_model.g_nNetCount = 2;
+        fixtures::MakeThreeLayerStack();
+        fixtures::SetNetNames({"N1", "N2"});
         BuildDisplayNetNames();
 
         PadStackRec smd;

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "TestSupport.h"
+#include "model/LayoutModel.h"
 #include "ndd/LayerStack.h"
-#include "ndd/LayoutModel.h"
 #include "ndd/PadStackLayers.h"
 
 using namespace testing_support;

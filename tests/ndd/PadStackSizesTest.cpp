@@ -6,9 +6,9 @@
 #include <string>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/LayerStack.h"
-#include "ndd/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/PadBoundaries.h"
 

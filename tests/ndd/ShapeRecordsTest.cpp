@@ -2,16 +2,16 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
-#include "geometry/ShapeFixtures.h"
+#include "model/TranslationOptions.h"
 #include "ndd/BoardOutline.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"
 
-using namespace shape_fixtures;
+using namespace fixtures;
 
 namespace {
 
@@ -25,11 +25,12 @@ class ShapeRecords : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        SetUpLayers({"TOP", "GND"});
+        fixtures::MakeSignalLayers({"TOP", "GND"});
         g_model.g_dbLengthScale = 1.0;
     }
     // Reads text (after the common head) with the net table and the shape pass.
     void Read(const std::string& body) {
+        ForgetNddInput();
         path_ = dir_.Write("b.ndd", kHead + body);
         ParseNet(*OpenNdd(path_));
         ASSERT_EQ(1, ParseElement(path_));
@@ -38,59 +39,74 @@ class ShapeRecords : public ::testing::Test {
     std::string path_;
 };
 
-TEST_F(ShapeRecords, CircleSizeLosesTheLastThreeCharacters) {
-    Read(
-        "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%circle 0 0 100 ;\n"
-        "%cutout\n%circle 1 2 100;\n%end_boundary\n");
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ(kGeometryCircle, g_model.g_aShapes[0].geometry);
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[0].polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{0, 0}, {100, 100}}), PointsOf(0));
-    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[1].polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{1, 2}, {10, 10}}), PointsOf(1));
-    EXPECT_EQ(0, g_model.g_aShapes[1].layer);
-    EXPECT_EQ(0, g_model.g_aShapes[1].net);  // GND sorts first
+// Shape records as read, before any clean-up: the text after the common head, and the shapes
+// it gives (see ShapesAsText). Nets sort: GND 0, VCC 1; layers TOP 0, GND 1.
+TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
+    const std::string fill = "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n";
+    const struct {
+        const char* what;
+        std::string body, shapes;
+    } rows[] = {
+        {"a circle's size loses its last three characters",
+         "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%circle 0 0 100 ;\n"
+         "%cutout\n%circle 1 2 100;\n%end_boundary\n",
+         "L0 N0 C+ 0,0 100,100\nL0 N0 C- 1,2 10,10\n"},
+        {"a fill without boundary covers the board outline",
+         "%fill_area \"GND\" \"GND\";\n\n%fill_area \"TOP\" \"VCC\";\n%fill_area \"GND\" "
+         "\"VCC\";\n",
+         "L1 N0 P+ 0,0 0,50 100,50 100,0 0,0\nL0 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"
+         "L1 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"},
+        {"a polygon runs over lines and ends at a lone semicolon line",
+         fill + "%polygon 0 0 10 0\n10 10 0\n10 ;\n%cutout\n%rectangle 2 3 4 5;\n%end_boundary\n",
+         "L0 N1 P+ 0,0 10,0 10,10 0,10 0,0\nL0 N1 P- 2,3 2,5 4,5 4,3 2,3\n"},
+        {"a polygon cut off by the end of the file keeps what it read",
+         fill + "%polygon 0 0 10 0\n10 10 7", "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
+        {"a line path looks ahead and leaves the cutout to be read",
+         fill +
+             "%line 0 0 10 0;\n%arc 10 0 12 5 10 10;\n%line 10 10 0 0;\n%cutout\n%circle 5 5 2 ;\n"
+             "%end_boundary\n",
+         "L0 N1 P+ 0,0 10,0 10,0 12,5 10,10 10,10 0,0 0,0\nL0 N1 C- 5,5 2,2\n"},
+        {"a keyhole polygon splits on its repeated points",
+         fill + "%polygon 0 0 10 0 10 10 0 10 0 5 3 5 3 7 7 7 7 3 3 3 3 5 0 5;\n%end_boundary\n",
+         "L0 N1 Ps 3,5 3,7 7,7 7,3 3,3 3,5\nL0 N1 P+ 0,0 10,0 10,10 0,10 0,5 0,0\n"},
+        {"repeated neighbour points merge, numbers read without case",
+         fill + "%polygon 0 0 1e1 0 1E1 0 10 10;\n%end_boundary\n",
+         "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
+        {"a fill without a net is passed over",
+         "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+         "1;\n%end_boundary\n",
+         ""},
+        {"an unknown layer gives layer -1",
+         "%fill_area \"NOPE\" \"VCC\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+         "1;\n%end_boundary\n",
+         "L-1 N1 P+ 0,0 0,1 1,1 1,0 0,0\n"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        Read(row.body);
+        EXPECT_EQ(ShapesAsText(), row.shapes) << row.what;
+    }
 }
 
-TEST_F(ShapeRecords, FillWithoutBoundaryCoversTheBoardOutline) {
+TEST_F(ShapeRecords, FillsWithoutANetWithTheNoNetOption) {
+    g_options.g_nIncludeNoNetEtches = 1;
     Read(
-        "%fill_area \"GND\" \"GND\";\n\n%fill_area \"TOP\" \"VCC\";\n%fill_area \"GND\" "
-        "\"VCC\";\n");
-    const std::vector<ShapePoint> board{{0, 0}, {0, 50}, {100, 50}, {100, 0}, {0, 0}};
-    EXPECT_EQ(board, g_model.g_lstBoardOutline);
-    ASSERT_EQ(3, g_model.ShapeCount());
-    EXPECT_EQ(1, g_model.g_aShapes[0].layer);
-    EXPECT_EQ(0, g_model.g_aShapes[1].layer);
-    EXPECT_EQ(1, g_model.g_aShapes[1].net);
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(board, PointsOf(i)) << i;
+        "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
+        "1;\n%end_boundary\n");
+    EXPECT_EQ(ShapesAsText(), "L0 N" + std::to_string(kNoNet) + " P+ 0,0 0,1 1,1 1,0 0,0\n");
 }
 
-TEST_F(ShapeRecords, PolygonRunsOverLinesAndEndsAtALoneSemicolonLine) {
+TEST_F(ShapeRecords, FillOfAnUnselectedNetIsPassedOverWithItsVoids) {
+    g_options.g_nSelectedNetCount = 1;
+    g_options.g_pSelectedNets = {1};  // VCC
+    SetNetSelectionMode();
     Read(
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n%polygon 0 0 10 0\n10 10 0\n"
-        "10 ;\n%cutout\n%rectangle 2 3 4 5;\n%end_boundary\n");
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ((std::vector<ShapePoint>{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}), PointsOf(0));
-    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[1].polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{2, 3}, {2, 5}, {4, 5}, {4, 3}, {2, 3}}), PointsOf(1));
-}
-
-TEST_F(ShapeRecords, PolygonCutOffByTheEndOfTheFileKeepsWhatItRead) {
-    Read("%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n%polygon 0 0 10 0\n10 10 7");
-    ASSERT_EQ(1, g_model.ShapeCount());
-    EXPECT_EQ((std::vector<ShapePoint>{{0, 0}, {10, 0}, {10, 10}, {0, 0}}), PointsOf(0));
-}
-
-TEST_F(ShapeRecords, LinePathLooksAheadAndLeavesTheCutoutToBeRead) {
-    Read(
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n%line 0 0 10 0;\n"
-        "%arc 10 0 12 5 10 10;\n%line 10 10 0 0;\n%cutout\n%circle 5 5 2 ;\n%end_boundary\n");
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ((std::vector<ShapePoint>{
-                  {0, 0}, {10, 0}, {10, 0}, {12, 5}, {10, 10}, {10, 10}, {0, 0}, {0, 0}}),
-              PointsOf(0));
-    EXPECT_EQ(kGeometryCircle, g_model.g_aShapes[1].geometry);
-    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[1].polarity);
+        "# Board Geometry section.\n"
+        "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n"
+        "%cutout\n%circle 0 0 1 ;\n%end_boundary\n"
+        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%cutout\n%circle 5 5 2 ;\n"
+        "%end_boundary\n");
+    EXPECT_EQ(ShapesAsText(), "L0 N1 C- 5,5 2,2\n");
 }
 
 TEST_F(ShapeRecords, RoundLineGoesRoundBothEnds) {
@@ -116,61 +132,6 @@ TEST_F(ShapeRecords, RoundLineGoesRoundBothEnds) {
     EXPECT_EQ(1.0, p[11].y);
 }
 
-TEST_F(ShapeRecords, KeyholePolygonSplitsOnItsRepeatedPoints) {
-    Read(
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n"
-        "%polygon 0 0 10 0 10 10 0 10 0 5 3 5 3 7 7 7 7 3 3 3 3 5 0 5;\n%end_boundary\n");
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ(kPolaritySplit, g_model.g_aShapes[0].polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{3, 5}, {3, 7}, {7, 7}, {7, 3}, {3, 3}, {3, 5}}),
-              PointsOf(0));
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 5}, {0, 0}}),
-              PointsOf(1));
-}
-
-TEST_F(ShapeRecords, RepeatedNeighbourPointsMergeWithoutCase) {
-    Read(
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n"
-        "%polygon 0 0 1e1 0 1E1 0 10 10;\n%end_boundary\n");
-    EXPECT_EQ((std::vector<ShapePoint>{{0, 0}, {10, 0}, {10, 10}, {0, 0}}), PointsOf(0));
-}
-
-TEST_F(ShapeRecords, FillsWithoutANetNeedTheNoNetOption) {
-    const std::string body =
-        "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n"
-        "%end_boundary\n";
-    Read(body);
-    EXPECT_EQ(0, g_model.ShapeCount());
-    g_options.g_nIncludeNoNetEtches = 1;
-    Read(body);
-    ASSERT_EQ(1, g_model.ShapeCount());
-    EXPECT_EQ(kNoNet, g_model.g_aShapes[0].net);
-}
-
-TEST_F(ShapeRecords, FillOfAnUnselectedNetIsPassedOverWithItsVoids) {
-    g_options.g_nSelectedNetCount = 1;
-    g_options.g_pSelectedNets = {1};  // VCC
-    SetNetSelectionMode();
-    Read(
-        "# Board Geometry section.\n"
-        "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n"
-        "%cutout\n%circle 0 0 1 ;\n%end_boundary\n"
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%cutout\n%circle 5 5 2 ;\n"
-        "%end_boundary\n");
-    ASSERT_EQ(1, g_model.ShapeCount());
-    EXPECT_EQ(1, g_model.g_aShapes[0].net);
-    EXPECT_EQ((std::vector<ShapePoint>{{5, 5}, {2, 2}}), PointsOf(0));
-}
-
-TEST_F(ShapeRecords, UnknownLayerGivesLayerMinusOne) {
-    Read(
-        "%fill_area \"NOPE\" \"VCC\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n"
-        "%end_boundary\n");
-    ASSERT_EQ(1, g_model.ShapeCount());
-    EXPECT_EQ(-1, g_model.g_aShapes[0].layer);
-}
-
 TEST_F(ShapeRecords, BoardOutlineFromALinePathOrAPolygon) {
     std::string path = dir_.Write(
         "l.ndd", "%board_outline\n# c\n%line 0 0 5 0;\n%line 5 0 5 5;\nx\n%end_boundary\n");
@@ -186,9 +147,9 @@ TEST_F(ShapeRecords, BoardOutlineFromALinePathOrAPolygon) {
 TEST_F(ShapeRecords, GapStrokesFollowPolygonsOnPlaneLayersOnly) {
     g_model.g_mapLayerKind.Set("TOP", "S");
     g_model.g_mapLayerKind.Set("GND", "P");
-    AddPolygon(1, 0, kPolarityCopper, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
-    AddPolygon(0, 0, kPolarityCopper, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
-    AddCircle(1, 0, 1, 1, 1);
+    AddPolygon(1, kPolarityCopper, 0, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
+    AddPolygon(0, kPolarityCopper, 0, {{0, 0}, {4, 0}, {4, 4}, {0, 0}});
+    AddCircle(1, kPolarityCopper, 0, 1, 1, 1);
     AddGapStrokesOnPlaneLayers(0.2);
     // Three edges on GND, each a circle and a rectangle.
     ASSERT_EQ(3 + 6, g_model.ShapeCount());

@@ -2,16 +2,16 @@
 
 #include <random>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/ShapeCleanupRound.h"
-#include "geometry/ShapeFixtures.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/ParseElement.h"
 
-using namespace shape_fixtures;
+using namespace fixtures;
 
 namespace {
 
@@ -50,7 +50,7 @@ TEST(ShapeRobustness, ScrambledFillRecordsNeverCrashOrHang) {
     testing_support::ScratchDir dir;
     for (int round = 0; round < 40; ++round) {
         testing_support::ResetGlobals();
-        SetUpLayers({"TOP", "GND"});
+        fixtures::MakeSignalLayers({"TOP", "GND"});
         g_model.g_mapLayerKind.Set("GND", "P");
         g_model.g_dbLengthScale = 1.0;
         g_options.g_nIncludeNoNetEtches = round % 2;

@@ -2,20 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
 
 namespace {
-
-void MakeStack(const std::vector<std::pair<char, std::string>>& layers) {
-    g_model.g_aLayers = std::make_unique<LayerRec[]>(kMaxLayers);
-    g_model.g_nLayerCount = 0;
-    for (const auto& [kind, name] : layers) {
-        LayerRec& l = g_model.g_aLayers[g_model.g_nLayerCount++];
-        l.kind = kind == 'S' ? kLayerSignal : kind == 'P' ? kLayerPlane : kLayerDielectric;
-        SetLayerName(l, name);
-    }
-}
 
 PadStackRec& Stack(const std::string& name, const std::vector<std::string>& libLayers) {
     PadStackRec& s = g_model.g_padStacks[name];
@@ -38,7 +29,11 @@ std::vector<std::string> EntryLayers(const PadStackRec& s) {
 
 TEST(SurfacePads, OnePadOnTopOrBottomIsCopiedToEveryConductorLayer) {
     testing_support::ResetGlobals();
-    MakeStack({{'S', "TOP"}, {'D', "D1"}, {'P', "GND"}, {'D', "D2"}, {'S', "BOT"}});
+    fixtures::MakeLayerStack({{"TOP", kLayerSignal},
+                              {"D1", kLayerDielectric},
+                              {"GND", kLayerPlane},
+                              {"D2", kLayerDielectric},
+                              {"BOT", kLayerSignal}});
     PadStackRec& smd = Stack("SMD", {"%TopPad"});
     PadStackRec& two = Stack("TWO", {"%toppad", "%bottompad"});
     PadStackRec& inner = Stack("INNER", {"GND"});

@@ -4,14 +4,14 @@
 
 #include <cmath>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
 #include "geometry/PointOnNetShape.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 
@@ -25,11 +25,11 @@ class ThermalTiesTest : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        testing_support::MakeLayerStack(
+        fixtures::MakeLayerStack(
             {{"TOP", kLayerSignal}, {"D1", kLayerDielectric}, {"GND", kLayerPlane}});
         g_model.g_mapLayerId.Set("1", "TOP");
         g_model.g_mapLayerId.Set("2", "GND");
-        testing_support::MakeNets({"GND", "VCC"});
+        fixtures::MakeNets({"GND", "VCC"});
         g_model.g_dbLengthScale = 0.001;  // file units are micrometres
     }
 

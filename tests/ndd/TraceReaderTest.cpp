@@ -2,16 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "app/Progress.h"
-#include "app/TranslationOptions.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/Progress.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // TOP and BOTTOM signal layers around a dielectric, nets CLK (0) and GND (1), lengths in mm.
 void MakeBoard() {
@@ -21,106 +22,7 @@ void MakeBoard() {
     g_model.g_dbLengthScale = 1.0;
 }
 
-struct TraceView {
-    double width;
-    int32_t layer, start, end, color, net;
-};
-
-TraceView View(size_t i) {
-    const TraceRec& t = g_model.g_aTraces.at(i);
-    return {t.width, t.layer, t.startNode, t.endNode, t.color, g_model.g_aTraceNets.at(i)};
-}
-
-void ExpectTrace(size_t i, TraceView want) {
-    TraceView got = View(i);
-    EXPECT_EQ(got.width, want.width) << i;
-    EXPECT_EQ(got.layer, want.layer) << i;
-    EXPECT_EQ(got.start, want.start) << i;
-    EXPECT_EQ(got.end, want.end) << i;
-    EXPECT_EQ(got.color, want.color) << i;
-    EXPECT_EQ(got.net, want.net) << i;
-    EXPECT_EQ(g_model.g_aTraceFlags.at(i), 0) << i;
-}
-
-TEST(ParseTrace, ConnectedEndsShareNodesAndFieldsAreRead) {
-    MakeBoard();
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "# Traces section.\n"
-                                 "%trace \"TOP\" 0.25 0 0 10 0 \"CLK\";\n"
-                                 "%trace \"TOP\" 0.25 10.00005 0 20 0 \"clk\"\n"
-                                 "%trace \"TOP\" 0.25 20.00007 0 30 0 GND;\n"
-                                 "%trace \"BOTTOM\" 0.5 30 0 0 0 \"GND\" ;\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 4);
-    // Nets sort without case: CLK is 0 (colour 1), GND is 1 (colour 2).
-    ExpectTrace(0, {0.25, 0, 0, 1, 1, 0});
-    ExpectTrace(1, {0.25, 0, 1, 2, 1, 0});  // 5e-5 mm from node 1: the same node
-    ExpectTrace(2, {0.25, 0, 3, 4, 2, 1});  // 7e-5 mm from node 2: a new node
-    ExpectTrace(3, {0.5, 2, 5, 6, 2, 1});   // same points on another layer: new nodes
-    EXPECT_EQ(g_model.g_nNodeCount, 7u);
-    EXPECT_EQ(FindNode(0, 10.0, 0.0)->traceRefs, 2);
-}
-
-TEST(ParseTrace, ScalesByTheLengthUnit) {
-    MakeBoard();
-    g_model.g_dbLengthScale = 1e-5;
-    ScratchDir dir;
-    std::string path =
-        dir.Write("a.ndd", "%trace \"TOP\" 23500 1524000 1016000 1571184 1063184 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 1);
-    EXPECT_EQ(g_model.g_aTraces[0].width, 23500 * 1e-5);
-    const NodeRec* start = FindNode(0, 1524000 * 1e-5, 1016000 * 1e-5);
-    ASSERT_NE(start, nullptr);
-    EXPECT_EQ(start->x, 1524000 * 1e-5);
-    EXPECT_EQ(start->y, 1016000 * 1e-5);
-}
-
-TEST(ParseTrace, LayerTokenLosesItsFirstAndLastCharacterWhateverTheyAre) {
-    MakeBoard();
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "%trace xBOTTOMx 1 0 0 1 1 \"CLK\";\n"
-                                 "%trace TOP 1 0 0 1 1 \"CLK\";\n"
-                                 "%trace \"D1\" 1 0 0 1 1 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 3);
-    EXPECT_EQ(g_model.g_aTraces[0].layer, 2);
-    EXPECT_EQ(g_model.g_aTraces[1].layer, -1);  // "O" is no layer; the trace stays
-    EXPECT_EQ(g_model.g_aTraces[2].layer, -1);  // dielectrics are never found
-}
-
-TEST(ParseTrace, NetRulesDecideWhichLinesAreKept) {
-    MakeBoard();
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "%trace \"TOP\" 1 0 0 1 0\n"
-                                 "%trace \"TOP\" 1 0 1 1 1 \"\";\n"
-                                 "%trace \"TOP\" 1 0 2 1 2 \"NOSUCH\";\n"
-                                 "%trace \"TOP\" 1 0 3 1 3 \"GND\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    // Without a net the line is dropped; an unknown name keeps the line with no net.
-    ASSERT_EQ(g_model.TraceCount(), 2);
-    ExpectTrace(0, {1, 0, 0, 1, 0, kNoNet});
-    ExpectTrace(1, {1, 0, 2, 3, 2, 1});
-
-    MakeBoard();
-    g_options.g_nIncludeNoNetEtches = 1;
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    EXPECT_EQ(g_model.TraceCount(), 4);
-    EXPECT_EQ(g_model.g_aTraceNets[0], kNoNet);
-    EXPECT_EQ(g_model.g_aTraces[0].color, 0);
-
-    MakeBoard();
-    g_options.g_nSelectedNetCount = 1;
-    g_options.g_pSelectedNets = {1};  // GND
-    SetNetSelectionMode();
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 1);  // "NOSUCH" is not selected
-    EXPECT_EQ(g_model.g_aTraceNets[0], 1);
-}
-
+// Whole runs of the trace reader are in tests/data/cases (trace_*, arc_*).
 TEST(ParseTrace, LinesThatAreNotTraces) {
     MakeBoard();
     ScratchDir dir;
@@ -179,22 +81,6 @@ TEST(ParseTrace, SpatialRangeComparesTheFilesRawNumbers) {
     EXPECT_NE(FindNode(0, 5000 * 1e-5, 5000 * 1e-5), nullptr);
     ASSERT_EQ(ParseArcTrace(path, 0), 1);  // arcs are not filtered
     EXPECT_EQ(g_model.TraceCount(), 4);
-}
-
-TEST(ParseArcTrace, ArcBecomesTwoHalvesMeetingAtItsMiddlePoint) {
-    MakeBoard();
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "%trace \"TOP\" 1 9 9 8 8 \"CLK\";\n"
-                                 "%arc_trace \"BOTTOM\" 0.2 0 0 1 1 2 0 \"GND\";\n"
-                                 "%arc_trace \"BOTTOM\" 0.2 2 0 3 -1 4 0;\n"
-                                 " %arc_trace \"BOTTOM\" 0.2 7 7 8 8 9 9 \"GND\";\n");
-    ASSERT_EQ(ParseArcTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 2);
-    ExpectTrace(0, {0.2, 2, 0, 1, 2, 1});  // (0,0) to (1,1)
-    ExpectTrace(1, {0.2, 2, 2, 1, 2, 1});  // (2,0) to (1,1)
-    EXPECT_EQ(FindNode(2, 1.0, 1.0)->traceRefs, 2);
-    EXPECT_EQ(FindNode(2, 2.0, 0.0)->id, 2u);
 }
 
 TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/Units.h"
@@ -65,32 +65,7 @@ class NetTableTest : public ::testing::Test {
         ParseNet(s);
         AssignNetColors();
     }
-    std::vector<std::string> Names() {
-        std::vector<std::string> out;
-        for (const auto& n : g_model.g_strNetNames) out.push_back(n.name);
-        return out;
-    }
 };
-
-TEST_F(NetTableTest, NamesComeFromPortLinesSortedWithoutCase) {
-    Parse(
-        "%port \"U1-1\" \"gnd\";\n%port \"U1-2\" \"Clk\";\n%portdef \"x\" \"DEF\";\n"
-        "%portswap a \"SWAP\";\n#%port a \"COMMENT\";\n%net \"NETLINE\";\n"
-        "%port \"U1-3\" \"abc\";\n%port \"U1-4\" \"gnd\";\n%port \"U1-5\" %no_connect;\n"
-        "%port \"U1-6\";\n");
-    EXPECT_EQ(Names(), (std::vector<std::string>{"abc", "Clk", "gnd"}));
-    EXPECT_EQ(NetIndexByName("CLK"), 1);
-    EXPECT_EQ(NetIndexByName("nope"), kNoNet);
-    EXPECT_EQ(g_model.g_nNetColor, (std::vector<int32_t>{1, 2, 3}));
-    EXPECT_EQ(g_options.g_bHasNets, 1);
-}
-
-TEST_F(NetTableTest, LongNamesAreCutTo127Characters) {
-    std::string name(130, 'n');
-    Parse("%port a \"" + name + "\";\n");
-    ASSERT_EQ(g_model.g_nNetCount, 1);
-    EXPECT_EQ(std::string(g_model.g_strNetNames[0].name), std::string(127, 'n'));
-}
 
 TEST_F(NetTableTest, NamesDifferingOnlyInCaseGetNumberedDisplayNames) {
     Parse("%port a \"Vcc\";\n%port b \"VCC\";\n%port c \"vcc_1\";\n%port d \"GND\";\n");
@@ -99,15 +74,6 @@ TEST_F(NetTableTest, NamesDifferingOnlyInCaseGetNumberedDisplayNames) {
     // which then collides with vcc_1; round 2 renames the second of that pair.
     EXPECT_EQ(g_model.g_strDisplayNetNames,
               (std::vector<std::string>{"GND", "Vcc", "VCC_1", "vcc_1_2"}));
-}
-
-TEST_F(NetTableTest, ColoursCycleThroughElevenEntries) {
-    std::string text;
-    for (int i = 0; i < 13; ++i) text += "%port p \"N" + std::string(1, char('a' + i)) + "\";\n";
-    Parse(text);
-    EXPECT_EQ(g_model.g_nNetColor[10], 11);
-    EXPECT_EQ(g_model.g_nNetColor[11], 1);
-    EXPECT_EQ(g_model.g_nNetColor[12], 2);
 }
 
 TEST_F(NetTableTest, SelectionIsLookedUpWithCase) {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "ShapeTestSupport.h"
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
+
 #include "geometry/CheckUndiscardableVoids.h"
+#include "model/TranslationOptions.h"
 #include "qfx/ShapeWriter.h"
 #include "qfx/ViaContact.h"
 #include "qfx/ViaWriter.h"
@@ -14,6 +14,7 @@
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // Four conductor layers L1..L4 at indices 0, 2, 4, 6; nets GND (0, red) and N1 (1, green).
 class MakeViasTest : public ::testing::Test {
@@ -54,21 +55,6 @@ class MakeViasTest : public ::testing::Test {
     PadStackRec stack;
     int32_t gnd = 0, n1 = 0;
 };
-
-TEST_F(MakeViasTest, ThroughViaWithATraceOnLayerThreeOnlyGivesTwoStretches) {
-    AddTraceLine(4, 1, 1, 5, 1, n1);  // nodes 0 and 1
-    AddVia(1, 1, n1);
-    EXPECT_EQ(Make(),
-              "Via1::N1 UpperNode = Node2::N1 LowerNode = Node0::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 0.000000\n"
-              "Via2::N1 UpperNode = Node0::N1 LowerNode = Node3::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 0.000000\n");
-    const NodeRec* middle = Node(4, 1, 1);
-    ASSERT_NE(middle, nullptr);
-    EXPECT_EQ(middle->viaRefs, 1);
-    EXPECT_EQ(middle->traceRefs, 1);
-    EXPECT_EQ(Node(2, 1, 1), nullptr);  // no node where the barrel makes no contact
-}
 
 TEST_F(MakeViasTest, ViaWithNoMiddleContactGivesOneStretch) {
     AddVia(1, 1, n1);

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "TraceTestSupport.h"
-#include "app/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "geometry/NodeSet.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/TraceReader.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/TraceWriter.h"
@@ -13,6 +13,7 @@
 namespace {
 
 using namespace testing_support;
+using namespace fixtures;
 
 // The writing steps of a translation after the traces were read.
 void SettleNodes() {
@@ -27,38 +28,6 @@ std::string Nodes() {
 }
 std::string Traces() {
     return CaptureOutput([](FILE* f) { WriteTraces(f); });
-}
-
-TEST(WriteNodes, ReadRouteGivesNodeLinesInSetOrderAndTraceLines) {
-    ResetGlobals();
-    MakeLayerStack({{"TOP", kLayerSignal}, {"D1", kLayerDielectric}, {"BOT", kLayerSignal}});
-    MakeNets({"CLK"});
-    g_model.g_dbLengthScale = 1.0;
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "%trace \"TOP\" 0.25 30 0 20.00007 0 \"CLK\";\n"
-                                 "%trace \"TOP\" 0.25 20 0 10.00005 0 \"CLK\";\n"
-                                 "%trace \"TOP\" 0.25 10 0 0 0 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    SettleNodes();
-    EXPECT_EQ(Nodes(),
-              "Node4::CLK X = 0.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node3::CLK X = 1.0000050000e+01mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node2::CLK X = 2.0000000000e+01mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node1::CLK X = 2.0000070000e+01mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node0::CLK X = 3.0000000000e+01mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n");
-    EXPECT_EQ(Traces(),
-              "Trace0::CLK StartingNode = Node0::CLK EndingNode = Node1::CLK Width = "
-              "2.500000e-01mm Color = red\n"
-              "Trace1::CLK StartingNode = Node2::CLK EndingNode = Node3::CLK Width = "
-              "2.500000e-01mm Color = red\n"
-              "Trace2::CLK StartingNode = Node3::CLK EndingNode = Node4::CLK Width = "
-              "2.500000e-01mm Color = red\n");
 }
 
 TEST(WriteNodes, TracesOffSignalLayersLeaveNoLines) {

@@ -7,9 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Skeleton.h"
 
 using namespace testing_support;
@@ -19,15 +20,6 @@ namespace {
 constexpr uint8_t S = kLayerSignal;
 constexpr uint8_t D = kLayerDielectric;
 constexpr uint8_t P = kLayerPlane;
-
-void SetLayers(const std::vector<std::pair<std::string, uint8_t>>& layers) {
-    g_model.g_aLayers = std::make_unique<LayerRec[]>(kMaxLayers);
-    for (size_t i = 0; i < layers.size(); ++i) {
-        SetLayerName(g_model.g_aLayers[i], layers[i].first);
-        g_model.g_aLayers[i].kind = layers[i].second;
-    }
-    g_model.g_nLayerCount = static_cast<int16_t>(layers.size());
-}
 
 std::shared_ptr<PadDefRec> Pad(const std::string& shape, double width, double height,
                                double offsetX = 0.0, double offsetY = 0.0) {
@@ -70,7 +62,7 @@ class PadStackSectionTest : public ::testing::Test {
 };
 
 TEST_F(PadStackSectionTest, DsdsdStackMirrorsTheTwoSignalLayersIntoEachOther) {
-    SetLayers({{"D1", D}, {"TOP", S}, {"D2", D}, {"BOT", S}, {"D3", D}});
+    fixtures::MakeLayerStack({{"D1", D}, {"TOP", S}, {"D2", D}, {"BOT", S}, {"D3", D}});
     AddStack("P", -1.0,
              {Entry("top", Pad("CIRCLE", 0.5, 0.5)), Entry("BOT", Pad("RECT", 0.6, 0.4))});
     EXPECT_EQ(Library(),
@@ -88,7 +80,7 @@ TEST_F(PadStackSectionTest, DsdsdStackMirrorsTheTwoSignalLayersIntoEachOther) {
 }
 
 TEST_F(PadStackSectionTest, OneMoreTrailingDielectricShiftsTheMirrorUpByOne) {
-    SetLayers({{"TOP", S}, {"D1", D}, {"BOT", S}, {"D2", D}});
+    fixtures::MakeLayerStack({{"TOP", S}, {"D1", D}, {"BOT", S}, {"D2", D}});
     AddStack("P", -1.0, {Entry("TOP", Pad("CIRCLE", 0.5, 0.5))});
     Library();
     // 4 - 0 - (1 - 0) - 1 = 2.
@@ -99,7 +91,7 @@ TEST_F(PadStackSectionTest, OneMoreTrailingDielectricShiftsTheMirrorUpByOne) {
 }
 
 TEST_F(PadStackSectionTest, PlaneAntiPadMirroredOntoASignalLayerBecomesARegularPad) {
-    SetLayers({{"GND", P}, {"D1", D}, {"BOT", S}});
+    fixtures::MakeLayerStack({{"GND", P}, {"D1", D}, {"BOT", S}});
     AddStack(
         "V", -1.0,
         {Entry("GND", nullptr, Pad("CIRCLE", 0.8, 0.8)), Entry("BOT", Pad("CIRCLE", 0.5, 0.5))});
@@ -124,7 +116,7 @@ TEST_F(PadStackSectionTest, PlaneAntiPadMirroredOntoASignalLayerBecomesARegularP
 }
 
 TEST_F(PadStackSectionTest, DrillHeadForms) {
-    SetLayers({{"TOP", S}});
+    fixtures::MakeLayerStack({{"TOP", S}});
     AddStack("V", 0.3, {});
     EXPECT_EQ(
         Library(),
@@ -143,7 +135,7 @@ TEST_F(PadStackSectionTest, DrillHeadForms) {
 }
 
 TEST_F(PadStackSectionTest, WithoutPadsOnlyHeadsAndEndsArePrinted) {
-    SetLayers({{"TOP", S}, {"BOT", S}});
+    fixtures::MakeLayerStack({{"TOP", S}, {"BOT", S}});
     AddStack("V", 0.1,
              {Entry("TOP", Pad("CIRCLE", 0.5, 0.5)), Entry("BOT", Pad("CIRCLE", 0.5, 0.5))});
     g_options.g_nTranslatePads = 0;
@@ -154,7 +146,7 @@ TEST_F(PadStackSectionTest, WithoutPadsOnlyHeadsAndEndsArePrinted) {
 }
 
 TEST_F(PadStackSectionTest, PadStacksFollowTheMapsBucketOrder) {
-    SetLayers({{"TOP", S}});
+    fixtures::MakeLayerStack({{"TOP", S}});
     // With 17 buckets: A (65) and R (82) share bucket 14, B (66) is in 15, Q (81) in 13.
     for (const char* key : {"A", "B", "R", "Q"}) AddStack(key, -1.0, {Entry("TOP", nullptr)});
     std::string text = Library();
@@ -171,7 +163,7 @@ TEST_F(PadStackSectionTest, PadStacksFollowTheMapsBucketOrder) {
 }
 
 TEST_F(PadStackSectionTest, PadLinesOfEveryShapeWithAndWithoutOffsets) {
-    SetLayers({{"TOP", S}, {"D1", D}, {"BOT", S}});
+    fixtures::MakeLayerStack({{"TOP", S}, {"D1", D}, {"BOT", S}});
     auto poly = Pad("POLYGON", 0, 0);
     poly->points = {{0.1, 0.2}, {0.3, 0.2}, {0.2, 0.4}};
     auto polyOffset = Pad("poly", 0, 0, 0.05, 0.0);
@@ -217,7 +209,7 @@ TEST_F(PadStackSectionTest, PadLinesOfEveryShapeWithAndWithoutOffsets) {
 }
 
 TEST_F(PadStackSectionTest, MirroredPadsDropOffsetsAndMirrorPolygonPoints) {
-    SetLayers({{"TOP", S}, {"BOT", S}});
+    fixtures::MakeLayerStack({{"TOP", S}, {"BOT", S}});
     auto poly = Pad("POLYGON", 0, 0, 0.05, 0.0);
     poly->points = {{0.1, 0.2}, {-0.3, 0.2}, {0.0, 0.4}};
     AddStack("M", -1.0, {Entry("TOP", Pad("RECTANGLE", 0.6, 0.4, 0.1, 0.1)), Entry("BOT", poly)});
@@ -234,7 +226,7 @@ TEST_F(PadStackSectionTest, MirroredPadsDropOffsetsAndMirrorPolygonPoints) {
 }
 
 TEST_F(PadStackSectionTest, AnAffixNamesEverythingAndLeavesMirroredCopiesEmpty) {
-    SetLayers({{"TOP", S}, {"BOT", S}});
+    fixtures::MakeLayerStack({{"TOP", S}, {"BOT", S}});
     AddStack("P", -1.0, {Entry("TOP", Pad("CIRCLE", 0.5, 0.5))});
     g_options.g_strNameAffix = "A_";
     EXPECT_EQ(Library(),
@@ -245,7 +237,7 @@ TEST_F(PadStackSectionTest, AnAffixNamesEverythingAndLeavesMirroredCopiesEmpty) 
 }
 
 TEST_F(PadStackSectionTest, PackageEndWritesBothLibrariesBeforeEndPackage) {
-    SetLayers({{"TOP", S}});
+    fixtures::MakeLayerStack({{"TOP", S}});
     AddStack("P", -1.0, {Entry("TOP", Pad("CIRCLE", 0.5, 0.5))});
     EXPECT_EQ(CaptureOutput([](FILE* f) { WritePackageEnd(f); }),
               "\n*PadStack Library Section\n\n.PadStackDef P\n\n"

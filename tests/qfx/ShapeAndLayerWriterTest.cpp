@@ -3,9 +3,10 @@
 #include <cstdio>
 
 #include "TestSupport.h"
-#include "app/TranslationOptions.h"
-#include "ndd/LayoutModel.h"
+#include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "qfx/LayerWriter.h"
+#include "qfx/Naming.h"
 #include "qfx/ShapeWriter.h"
 
 namespace {
@@ -191,6 +192,11 @@ TEST_F(LayerWriterTest, ColoursFollowTheTableIndexAndPatchesCountAsPlanes) {
     EXPECT_EQ(lines[8],
               "Plane$L8 Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Shape = "
               "PseudoNullShape Color = red");
+}
+
+TEST(Naming, TitleVersionTurnsCommasToDotsAndDropsBlanks) {
+    EXPECT_EQ(TitleVersion("25, 1, 1"), "25.1.1");
+    EXPECT_EQ(TitleVersion(" 1 ,0, 12"), "1.0.12");
 }
 
 }  // namespace
