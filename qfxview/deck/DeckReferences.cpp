@@ -61,9 +61,10 @@ void DeckReferences::Layer(const Statement& s) {
     if (layers_.emplace(name, s.kind).second)
         layerLines_[name] = s.line;
     else
-        Error(s.line, "duplicate-name",
-              "layer " + name + " is defined again (first at line " +
-                  std::to_string(layerLines_[name]) + ")");
+        // A layer keeps the name that the input gives it, a repeated one too.
+        Warning(s.line, "layer-name-repeated",
+                "layer " + name + " is defined again (first at line " +
+                    std::to_string(layerLines_[name]) + "): the input names two layers alike");
     std::string shape = ValueOf(s.head, "Shape");
     if (!shape.empty() && !shapes_.count(shape))
         Error(s.line, "unresolved-reference",

@@ -21,7 +21,7 @@ cp -r "$source/examples" "$work/example"
 cp "$work/example/board.qfx" "$work/decks/example.board.qfx"
 
 # Warnings that the output as specified makes; anything else is a fault.
-allowed='\[(non-finite-number|patch-without-shapes|pad-layer-not-in-stack|mirrored-padstack-without-pads|via-node-net|linkage-case|linkage-block-affix)\]$'
+allowed='\[(layer-name-repeated|non-finite-number|patch-without-shapes|pad-layer-not-in-stack|mirrored-padstack-without-pads|via-node-net|linkage-case|linkage-block-affix)\]$'
 decks=0 bad=0 empty=0
 for deck in "$work/decks"/*.qfx; do
     [ -e "$deck" ] || continue
