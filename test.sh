@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs every test through CTest: once in the normal
-# build, once more under AddressSanitizer and UndefinedBehaviorSanitizer (any report fails).
+# Installs what is missing, checks the formatting of the C++ files, builds, and runs every test
+# through CTest: once in the normal build, once more under AddressSanitizer and
+# UndefinedBehaviorSanitizer (any report fails).
 cd "$(dirname "$0")"
 source ./tools_common.sh
 install_missing
 export KEEP_BENCHMARK=0
+check_format
 
 build build
 ctest --test-dir build --output-on-failure -j "$(nproc)"

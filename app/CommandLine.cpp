@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "base/Platform.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
-#include "base/Platform.h"
 #include "ndd/NddTokens.h"
 
 namespace {

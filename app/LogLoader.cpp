@@ -3,11 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "model/ReportMessage.h"
 #include "app/SettingsPage.h"
-#include "model/TranslationOptions.h"
 #include "base/Platform.h"
+#include "base/ScopedClassicLocale.h"
 #include "model/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
@@ -230,6 +231,7 @@ void DefaultOutputFromInput(const std::string& inputFile, std::string& outputFil
 }  // namespace
 
 bool LoadLogFile(const std::string& logPath, std::string& inputFile, std::string& outputFile) {
+    base::ScopedClassicLocale classicNumbers;
     auto stream = OpenTextFile(logPath);
     if (!stream) {
         ReportMessage("Cannot open the specified file : " + logPath, kBoxWarning);

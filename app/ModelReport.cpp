@@ -2,14 +2,14 @@
 
 #include <cstdio>
 
-#include "model/ReportMessage.h"
-#include "model/TraceStep.h"
 #include "app/TranslationLog.h"
-#include "model/TranslationOptions.h"
 #include "base/Platform.h"
-#include "model/NodeSet.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
+#include "model/NodeSet.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "qfx/LayerWriter.h"
 #include "qfx/NodeWriter.h"
 #include "qfx/ShapeWriter.h"

@@ -1,17 +1,20 @@
 #include "app/Ndd2QfxApp.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <thread>
 
 #include "Version.h"
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
+#include "app/TranslationDriver.h"
+#include "base/Platform.h"
+#include "base/ScopedClassicLocale.h"
+#include "model/BatchHost.h"
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
-#include "app/TranslationDriver.h"
 #include "model/TranslationOptions.h"
-#include "base/Platform.h"
 #include "ndd/NddTokens.h"
 
 namespace {
@@ -72,6 +75,8 @@ void CNdd2QfxApp::DecideFolder(std::string& folder) {
 }
 
 int CNdd2QfxApp::InitInstance() {
+    // Numbers on the command line and in a loaded log are in the "C" form.
+    base::ScopedClassicLocale classicNumbers;
     TranslationOptions& o = g_options;
     o.g_strProgramFolder = base::ProgramFolder(m_args.empty() ? nullptr : m_args[0].c_str());
     TraceStep(false, "start parse cmd line for Ndd");
@@ -97,20 +102,23 @@ int CNdd2QfxApp::InitInstance() {
 
     o.g_lstLogNets.clear();
     o.g_lstLogColors.clear();
-    TranslationDriver driver;
+    BatchHost batchHost;
+    TranslationDriver driver(batchHost);
     o.g_strInputFile = o.g_strCmdInputFile;
     o.g_strOutputFile = o.g_strCmdOutputFile;
     o.g_nQuiet = o.g_nBatchMode;
     if (!o.g_strCmdLogFile.empty()) {
         LoadLogFile(o.g_strCmdLogFile, o.g_strCmdInputFile, o.g_strCmdOutputFile);
-        driver.m_bReread = true;
+        driver.RereadInput();
     }
 
     if (o.g_nBatchMode != 0) {
         TraceStep(true, "batch mode");
         o.g_strInputFile = o.g_strCmdInputFile;
         o.g_strOutputFile = o.g_strCmdOutputFile;
-        driver.Translate(o.g_strInputFile, o.g_strOutputFile);
+        // A batch run asks nothing, so it is never declined; a declined dialog run ends here.
+        if (driver.Translate(o.g_strInputFile, o.g_strOutputFile) == TranslateStatus::Declined)
+            std::exit(0);
     } else {
         TraceStep(true, "UI mode");
         std::fprintf(stderr,
@@ -124,7 +132,6 @@ int CNdd2QfxApp::InitInstance() {
 }
 
 int RunProcess(int argc, char** argv) {
-    base::UseClassicNumericLocale();
     std::vector<std::string> args(argv, argv + argc);
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& a = args[i];

@@ -1,7 +1,7 @@
 #include "app/SettingsPage.h"
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 void SettingsPage::Load() {
     const TranslationOptions& o = g_options;

@@ -3,30 +3,33 @@
 #include <cstdio>
 
 #include "app/ModelReport.h"
-#include "model/Progress.h"
-#include "model/ReportMessage.h"
-#include "model/TraceStep.h"
 #include "app/TranslationLog.h"
-#include "model/TranslationOptions.h"
 #include "base/Platform.h"
+#include "base/ScopedClassicLocale.h"
 #include "geometry/CheckUndiscardableVoids.h"
 #include "geometry/GapStrokes.h"
 #include "geometry/MakeNode.h"
-#include "model/NodeSet.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/TraceCleanup.h"
 #include "ibis/CircuitWriter.h"
+#include "ibis/IbisReader.h"
 #include "ibis/LinkageWriter.h"
 #include "ibis/Parts.h"
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/Progress.h"
+#include "model/ReportMessage.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "ndd/HkpReader.h"
 #include "ndd/LayerStack.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/PadBoundaries.h"
 #include "ndd/PadLibrary.h"
 #include "ndd/PadStackLayers.h"
+#include "ndd/PadStackSizes.h"
 #include "ndd/ParseElement.h"
 #include "ndd/SurfacePads.h"
 #include "ndd/ThermalTies.h"
@@ -71,22 +74,45 @@ std::string ExtensionOf(const std::string& name) {
     return dot == std::string::npos ? name : name.substr(dot);
 }
 
+// What one translation counts or caches for itself starts afresh with the next.
+void ResetTranslationState() {
+    ResetProgress();
+    ResetLogWarnings();
+    ResetIbisModelProblems();
+    ForgetViaRules();
+}
+
 }  // namespace
 
 void TranslationDriver::ShowStage(const std::string& text) {
-    if (g_options.g_nQuiet == 0) OnStage(text);
+    if (g_options.g_nQuiet == 0) host_.ShowStage(text);
 }
 
-int TranslationDriver::Translate(std::string inputFile, std::string outputFile) {
+void TranslationDriver::AddUnresolvedPart(const std::string& partNumber) {
+    m_lstUnresolvedParts.push_back(partNumber);
+}
+
+TranslateStatus TranslationDriver::Translate(std::string inputFile, std::string outputFile) {
+    HostScope hostScope(host_);
+    // Numbers read and written are in the "C" form whatever the process's locale.
+    base::ScopedClassicLocale classicNumbers;
+    ResetTranslationState();
     TraceStep(true, "Begin");
-    if (inputFile.empty()) return Fail("Please specify a NDD file");
-    if (outputFile.empty()) return Fail("Please specify a QFX file");
+    if (inputFile.empty() || outputFile.empty()) {
+        Fail(inputFile.empty() ? "Please specify a NDD file" : "Please specify a QFX file");
+        return TranslateStatus::Failed;
+    }
     if (g_options.g_nQuiet == 0 && base::PathExists(outputFile) && !g_options.g_bLogLoaded &&
         ReportMessage("Target qfx file already exists, \n Do you want to replace it?", kBoxYesNo) ==
             kAnswerNo) {
         TraceStep(true, "exit");
-        std::exit(0);
+        return TranslateStatus::Declined;
     }
+    return TranslateNamed(std::move(inputFile), std::move(outputFile)) ? TranslateStatus::Done
+                                                                       : TranslateStatus::Failed;
+}
+
+int TranslationDriver::TranslateNamed(std::string inputFile, std::string outputFile) {
     if (!LoadNddInput(inputFile)) {
         ReportMessage("Unable To open The Input NDD File\nPlease Check the Permissions");
         TraceStep(true, "Unable To open The Input NDD File\nPlease Check the Permissions");
@@ -106,7 +132,7 @@ int TranslationDriver::Translate(std::string inputFile, std::string outputFile) 
     }
     if (g_options.g_nQuiet == 0 && g_options.g_strTraceFile.empty() &&
         ReportMessage(kTracesQuestion, kBoxYesNo) == kAnswerYes)
-        RunSettingsStep();
+        host_.RunSettingsStep();
 
     int result = ReadDesignData(inputFile);
     if (result) result = ReadComponentData(inputFile, outputFile);

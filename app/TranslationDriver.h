@@ -1,13 +1,12 @@
 #pragma once
 // The order of a translation. Translate is the entry from the dialog and from a batch run:
 // it checks the names, opens the output and the log, reads the design's library-level data
-// and hands over to TranslateNddToQfx, the pipeline of reader passes, clean-up and writers
-// over the one LayoutModel. A later step relies on what the earlier ones left in the global
-// records, so the order here is a contract.
+// and hands over to the pipeline of reader passes, clean-up and writers over the one
+// LayoutModel. A later step relies on what the earlier ones left in the global records, so
+// the order here is a contract.
 //
-// The class holds no window: the main dialog derives from it and overrides the hooks that
-// show stages, move the progress bar and run the Settings step, so the translation itself is
-// the same code in a batch run with no toolkit.
+// The driver holds no window: it reaches the user only through its TranslationHost, so the
+// translation is the same code in a batch run with no toolkit and in the dialog.
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,24 +14,44 @@
 #include "base/StringMap.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/ModelAssignment.h"
+#include "model/TranslationHost.h"
+
+// What became of a translation; the application decides what follows.
+enum class TranslateStatus {
+    Failed,    // the user has been told why; what was written stays on disk
+    Done,      // the output and its log are complete
+    Declined,  // the user would not replace an existing output: the program ends
+};
 
 class TranslationDriver {
   public:
-    TranslationDriver() = default;
-    virtual ~TranslationDriver() = default;
+    explicit TranslationDriver(TranslationHost& host) : host_(host) {}
 
-    // Non-zero on success, 0 on any failure.
-    int Translate(std::string inputFile, std::string outputFile);
-    // 1 on success, 0 on failure.
+    TranslateStatus Translate(std::string inputFile, std::string outputFile);
+
+    // The input is read afresh by the next Translate: after a new input or a log load.
+    void RereadInput() { m_bReread = true; }
+    // A part whose model the user has yet to settle; it takes part in the IBIS step.
+    void AddUnresolvedPart(const std::string& partNumber);
+
+  private:
+    // Translate once the names are checked and the output may be replaced.
+    int TranslateNamed(std::string inputFile, std::string outputFile);
     int TranslateNddToQfx(const std::string& inputFile, const std::string& outputFile,
                           const std::string& outputFolder);
-
-    // Posts a stage message; only a dialog run shows one.
+    // Posts a stage message; only a run that is not quiet shows one.
     void ShowStage(const std::string& text);
+    int ReadDesignData(const std::string& inputFile);
+    int ReadComponentData(const std::string& inputFile, const std::string& outputFile);
+    void EmptyComponentLists();
+    void BindComponentModels(const std::string& inputFile, const std::string& outputFolder);
+    int FailPipeline();
+    // MakeVias failed: output and log are closed and cleared.
+    int FailMakeVias();
 
+    TranslationHost& host_;
     // The input must be read afresh: true after construction, a new input or a log load.
     bool m_bReread = true;
-
     // Part numbers to IBIS model assignments, made in Translate; components with their
     // package nodes, made by the pipeline. Both live for one translation.
     std::unique_ptr<ModelAssignment> g_pModelAssignment;
@@ -41,20 +60,6 @@ class TranslationDriver {
     base::StringMap<std::string> m_mapIbisAssignments{base::kComponentBuckets};
     // Part numbers whose models the user has yet to settle; they take part in the IBIS step.
     std::vector<std::string> m_lstUnresolvedParts;
-
-  protected:
-    virtual void OnStage(const std::string& /*text*/) {}
-    // The Settings step of a dialog run, offered when no traces file has been chosen.
-    virtual void RunSettingsStep() {}
-
-  private:
-    int ReadDesignData(const std::string& inputFile);
-    int ReadComponentData(const std::string& inputFile, const std::string& outputFile);
-    void EmptyComponentLists();
-    void BindComponentModels(const std::string& inputFile, const std::string& outputFolder);
-    int FailPipeline();
-    // MakeVias failed: output and log are closed and cleared.
-    int FailMakeVias();
 };
 
 // Frees the per-translation arrays of the model.

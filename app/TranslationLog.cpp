@@ -3,12 +3,16 @@
 #include <ctime>
 
 #include "Version.h"
-#include "model/TranslationOptions.h"
 #include "base/Platform.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 
 int g_bLogHasWarnings = 0;
+
+void ResetLogWarnings() {
+    g_bLogHasWarnings = 0;
+}
 
 namespace {
 

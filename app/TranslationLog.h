@@ -11,8 +11,9 @@ void WriteLogHeader(FILE* log);
 
 // Appends a text to the log as it stands.
 void LogWarning(const std::string& text);
-// Set once a warning has been written to the log.
+// Set once a warning has been written to the log; cleared for each translation.
 extern int g_bLogHasWarnings;
+void ResetLogWarnings();
 
 // "Component Model Info": every component with its value, and their count.
 void WriteModelReportLines(FILE* log);

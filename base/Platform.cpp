@@ -1,5 +1,7 @@
 #include "base/Platform.h"
 
+#include "base/ScopedClassicLocale.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -90,16 +92,12 @@ std::string ProgramFolder(const char* argv0) {
 std::string FormatTime(const char* format, std::time_t when) {
     std::string fmt(format);
     for (size_t p; (p = fmt.find("%#d")) != std::string::npos;) fmt.replace(p, 3, "%-d");
+    ScopedClassicLocale classicNames;
     std::tm tmv{};
     localtime_r(&when, &tmv);
     char buf[512];
     size_t n = std::strftime(buf, sizeof buf, fmt.c_str(), &tmv);
     return std::string(buf, n);
-}
-
-void UseClassicNumericLocale() {
-    std::setlocale(LC_NUMERIC, "C");
-    std::setlocale(LC_TIME, "C");
 }
 
 }  // namespace base

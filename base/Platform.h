@@ -27,7 +27,5 @@ std::string TempFolder();
 std::string ProgramFolder(const char* argv0);
 // strftime under the "C" locale; "%#d" is taken as the day without a leading zero.
 std::string FormatTime(const char* format, std::time_t when);
-// Pins the numeric locale to "C" so printf formats are the same everywhere.
-void UseClassicNumericLocale();
 
 }  // namespace base

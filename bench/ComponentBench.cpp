@@ -5,9 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "base/TextFile.h"
-#include "model/NodeSet.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/IbisReader.h"
@@ -15,6 +13,8 @@
 #include "ibis/ModelAssignment.h"
 #include "ibis/Parts.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

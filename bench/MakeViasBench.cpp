@@ -3,10 +3,10 @@
 
 #include <random>
 
-#include "model/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 #include "qfx/MakeVias.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <string>
 
+#include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "ndd/LayerStack.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/PadBoundaries.h"

@@ -6,9 +6,9 @@
 #include <cmath>
 #include <memory>
 
+#include "geometry/FinishShapes.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeTable.h"
-#include "geometry/FinishShapes.h"
 #include "model/LayoutModel.h"
 
 namespace {

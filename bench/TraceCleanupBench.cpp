@@ -4,13 +4,13 @@
 #include <cstdio>
 #include <string>
 
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
 #include "geometry/TraceCleanup.h"
-#include "ndd/HkpReader.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
+#include "ndd/HkpReader.h"
 #include "ndd/ThermalTies.h"
 #include "ndd/TraceReader.h"
 

@@ -9,10 +9,10 @@
 #include <memory>
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "geometry/MakeNode.h"
-#include "model/NodeSet.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NetTable.h"
 #include "ndd/TraceReader.h"

@@ -8,8 +8,8 @@
 
 #include "app/LogLoader.h"
 #include "app/TranslationLog.h"
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

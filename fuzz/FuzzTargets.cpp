@@ -11,10 +11,11 @@
 #include <vector>
 
 #include "app/LogLoader.h"
-#include "model/TraceStep.h"
 #include "app/TranslationDriver.h"
-#include "model/TranslationOptions.h"
+#include "model/BatchHost.h"
 #include "model/LayoutModel.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 
 namespace fuzz {
@@ -61,9 +62,10 @@ int RunTranslation(const std::string& input, const std::string& folder,
     std::string output = folder + "/out.qfx";
     g_options.g_strInputFile = input;
     g_options.g_strOutputFile = output;
-    TranslationDriver driver;
-    if (!ibisPart.empty()) driver.m_lstUnresolvedParts.push_back(ibisPart);
-    int result = driver.Translate(input, output);
+    BatchHost host;
+    TranslationDriver driver(host);
+    if (!ibisPart.empty()) driver.AddUnresolvedPart(ibisPart);
+    int result = driver.Translate(input, output) == TranslateStatus::Done ? 1 : 0;
     // A failed run may leave its streams open; close them before the next input.
     ResetTranslationOptions();
     return result;

@@ -4,13 +4,13 @@
 #include <map>
 #include <vector>
 
-#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/TraceInVoid.h"
 #include "geometry/VoidTraceGrid.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "model/NodeSet.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 

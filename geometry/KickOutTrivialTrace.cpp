@@ -1,7 +1,7 @@
-#include "model/NodeSet.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 void KickOutTrivialTrace() {
     if (g_model.g_aTraces.empty() || g_model.g_aNodes.empty()) return;

@@ -1,8 +1,8 @@
 #include "geometry/MakeNode.h"
 
-#include "model/NodeSet.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 

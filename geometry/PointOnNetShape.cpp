@@ -1,10 +1,10 @@
 #include "geometry/PointOnNetShape.h"
 
-#include "model/TranslationOptions.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/ShapeTable.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

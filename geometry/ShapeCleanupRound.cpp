@@ -1,9 +1,9 @@
 #include "geometry/ShapeCleanupRound.h"
 
 #include "geometry/CleanPolygon.h"
+#include "geometry/FinishShapes.h"
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/SortShapes.h"
-#include "geometry/FinishShapes.h"
 #include "model/LayoutModel.h"
 
 void RunShapeCleanupRound() {

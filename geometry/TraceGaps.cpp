@@ -1,15 +1,15 @@
 #include <cstdlib>
 #include <string>
 
-#include "model/TraceStep.h"
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/SegmentRectangle.h"
 #include "geometry/ShapeLocator.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceCleanupSupport.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TraceStep.h"
+#include "model/TranslationOptions.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "geometry/ShapeBoxes.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 
 namespace {
 

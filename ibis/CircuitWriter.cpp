@@ -4,11 +4,11 @@
 #include <cstring>
 #include <vector>
 
-#include "model/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentValue.h"
 #include "ibis/ModelAssignment.h"
 #include "ibis/ModelTable.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
 namespace {

@@ -5,12 +5,12 @@
 #include <cstdio>
 #include <utility>
 
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/IbisReader.h"
 #include "ibis/PinRotation.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "base/StringMap.h"
-#include "model/NodeRec.h"
 #include "model/ComponentRecords.h"
+#include "model/NodeRec.h"
 
 class ModelAssignment;
 

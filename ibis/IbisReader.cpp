@@ -272,3 +272,7 @@ void ParseIbisFile(ComponentRec& component) {
 int IbisModelProblemCount() {
     return g_nModelProblems;
 }
+
+void ResetIbisModelProblems() {
+    g_nModelProblems = 0;
+}

@@ -7,5 +7,6 @@
 
 // Reads component.ibisFile into an active component; does nothing for a passive one.
 void ParseIbisFile(ComponentRec& component);
-// How many reads failed (missing file, foreign pin, nameless model) since the start.
+// How many reads failed (missing file, foreign pin, nameless model) in this translation.
 int IbisModelProblemCount();
+void ResetIbisModelProblems();

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/ModelAssignment.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 

@@ -1,11 +1,11 @@
 #include <new>
 
-#include "model/ReportMessage.h"
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "ibis/Parts.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/ViaPass.h"

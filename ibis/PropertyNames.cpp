@@ -1,7 +1,7 @@
 #include "ibis/PropertyNames.h"
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 
 std::string ValuePropertyName() {

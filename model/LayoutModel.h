@@ -10,14 +10,14 @@
 
 #include "base/StringMap.h"
 #include "base/TextFile.h"
-#include "model/NodeRec.h"
 #include "model/ComponentRecords.h"
 #include "model/LayerRecords.h"
+#include "model/NodeRec.h"
 #include "model/PadRecords.h"
 #include "model/ShapeRec.h"
 #include "model/TraceRec.h"
-#include "model/ViaRec.h"
 #include "model/ViaOutRec.h"
+#include "model/ViaRec.h"
 
 constexpr int32_t kNoNet = 65535;
 constexpr int32_t kNoNetAlt = 65534;

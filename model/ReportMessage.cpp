@@ -2,15 +2,8 @@
 
 #include <cstdio>
 
+#include "model/TranslationHost.h"
 #include "model/TranslationOptions.h"
-
-namespace {
-MessageBoxHandler g_boxHandler = nullptr;
-}
-
-void SetMessageBoxHandler(MessageBoxHandler handler) {
-    g_boxHandler = handler;
-}
 
 void WriteBatchReport(const std::string& text) {
     size_t end = text.find_last_not_of(" \n\t");
@@ -27,7 +20,8 @@ int ReportMessage(std::string text, int boxType, int helpId) {
         WriteBatchReport(text);
         return 1;
     }
-    if (g_boxHandler) return g_boxHandler(text, boxType, helpId);
-    std::fprintf(stderr, "%s\n", text.c_str());
-    return boxType == kBoxYesNo ? kAnswerYes : 1;
+    TranslationHost& host = CurrentHost();
+    if (boxType == kBoxYesNo) return host.Ask(text) ? kAnswerYes : kAnswerNo;
+    host.ShowMessage(text, boxType, helpId);
+    return 1;
 }

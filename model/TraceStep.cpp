@@ -1,11 +1,11 @@
 #include "model/TraceStep.h"
 
+#include <strings.h>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <strings.h>
 
 #include "base/Platform.h"
 

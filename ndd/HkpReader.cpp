@@ -3,11 +3,11 @@
 #include <string>
 #include <utility>
 
-#include "model/ReportMessage.h"
-#include "model/TranslationOptions.h"
 #include "geometry/ShapeTable.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <limits>
 
-#include "model/ReportMessage.h"
-#include "model/TranslationOptions.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TokenList.h"

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 
 namespace {

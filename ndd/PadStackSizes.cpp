@@ -7,9 +7,9 @@
 #include <cstring>
 #include <vector>
 
-#include "model/TranslationOptions.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TokenList.h"
@@ -164,9 +164,15 @@ struct LayerRule {
 
 // The first "%viarule"/"%pinrule" line of each padstack name, gathered once per input text
 // so that many buried padstacks do not each read the whole file.
+struct ViaRules {
+    base::SharedText indexedText;
+    base::StringMap<LayerRule> rules;
+};
+ViaRules g_viaRules;
+
 const LayerRule* FindViaRule(const std::string& name, const std::string& path) {
-    static base::SharedText indexedText;
-    static base::StringMap<LayerRule> rules;
+    base::SharedText& indexedText = g_viaRules.indexedText;
+    base::StringMap<LayerRule>& rules = g_viaRules.rules;
     auto stream = OpenNdd(path);
     if (!stream) return nullptr;
     if (indexedText != stream->Text()) {
@@ -186,6 +192,10 @@ const LayerRule* FindViaRule(const std::string& name, const std::string& path) {
 }
 
 }  // namespace
+
+void ForgetViaRules() {
+    g_viaRules = ViaRules();
+}
 
 double GetPolygonRadius(const std::string& fields, base::LineStream& stream,
                         PadStackSizeRec& size) {

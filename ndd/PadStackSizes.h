@@ -8,6 +8,8 @@
 
 // Fills the model's padstack size list and map from the "%padstackdef" records of path.
 void ParsePadStackSizes(const std::string& path);
+// Drops the "%viarule"/"%pinrule" lines gathered from the last input text.
+void ForgetViaRules();
 
 // Equivalent radius of a "%polygon" whose coordinates follow in fields and, up to the line
 // with a ';', on the next lines of stream. Sets the record's corner list.

@@ -1,8 +1,8 @@
 #include <string>
 
-#include "model/Progress.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/Progress.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TraceReader.h"

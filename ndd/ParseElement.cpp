@@ -2,13 +2,13 @@
 
 #include <new>
 
+#include "geometry/ShapeTable.h"
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "model/Progress.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
-#include "geometry/ShapeTable.h"
 #include "ndd/BoardOutline.h"
-#include "model/LayerLookup.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

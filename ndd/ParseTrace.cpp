@@ -1,9 +1,9 @@
 #include <string>
 
-#include "model/Progress.h"
-#include "model/TranslationOptions.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/Progress.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/TraceReader.h"

@@ -1,8 +1,8 @@
 #include <cmath>
 #include <new>
 
-#include "model/TranslationOptions.h"
 #include "geometry/ShapeArea.h"
+#include "model/TranslationOptions.h"
 #include "ndd/ShapeRoutines.h"
 
 namespace {

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "geometry/PointOnNetShape.h"
 #include "geometry/ShapeLocator.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <new>
 
+#include "model/LayoutModel.h"
+#include "model/NodeSet.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 #include "ndd/TraceReader.h"

@@ -2,11 +2,11 @@
 
 #include <new>
 
+#include "model/LayerLookup.h"
+#include "model/LayoutModel.h"
 #include "model/Progress.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
-#include "model/LayerLookup.h"
-#include "model/LayoutModel.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"

@@ -1,7 +1,7 @@
 #include "qfx/LayerWriter.h"
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <cstdio>
 
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "geometry/PointInShape.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 #include "qfx/ViaContact.h"

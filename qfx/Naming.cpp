@@ -1,7 +1,7 @@
 #include "qfx/Naming.h"
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 
 const std::string& Affix() {
     return g_options.g_strNameAffix;

@@ -5,10 +5,10 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
 #include "qfx/Naming.h"
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

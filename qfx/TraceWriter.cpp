@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "model/TranslationOptions.h"
-#include "model/NodeSet.h"
 #include "model/LayoutModel.h"
+#include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 #include "qfx/OutputScale.h"
 

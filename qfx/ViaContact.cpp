@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "model/LayoutModel.h"
-#include "ndd/NddTokens.h"
 #include "model/PadRecords.h"
+#include "ndd/NddTokens.h"
 
 namespace {
 

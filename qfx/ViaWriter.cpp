@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "model/TranslationOptions.h"
 #include "model/LayoutModel.h"
+#include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
 
 namespace {

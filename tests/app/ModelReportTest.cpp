@@ -5,6 +5,7 @@
 #include "TestSupport.h"
 #include "app/TranslationDriver.h"
 #include "base/Platform.h"
+#include "model/BatchHost.h"
 #include "model/TranslationOptions.h"
 
 using namespace testing_support;
@@ -34,8 +35,9 @@ void StartBatchRun() {
 int Translate(const std::string& input, const std::string& output) {
     g_options.g_strInputFile = input;
     g_options.g_strOutputFile = output;
-    TranslationDriver driver;
-    return driver.Translate(input, output);
+    BatchHost host;
+    TranslationDriver driver(host);
+    return driver.Translate(input, output) == TranslateStatus::Done ? 1 : 0;
 }
 
 std::string Reports() {

@@ -6,36 +6,25 @@
 #include <string>
 #include <vector>
 
+#include "RecordingHost.h"
 #include "TestSupport.h"
 #include "app/TranslationDriver.h"
-#include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
 
 namespace {
 
 using namespace testing_support;
 
-class StageRecorder : public TranslationDriver {
-  public:
-    std::vector<std::string> stages;
-
-  protected:
-    void OnStage(const std::string& text) override { stages.push_back(text); }
-};
-
-int AnswerNo(const std::string&, int, int) {
-    return kAnswerNo;
-}
-
 // The stages shown, in a dialog run that declines the traces question.
 std::vector<std::string> Stages() {
     ScratchDir dir;
     WriteFile(dir.File("board.ndd"), ReadFile(NDD2QFX_SOURCE_DIR "/examples/board.ndd"));
-    SetMessageBoxHandler(AnswerNo);
-    StageRecorder driver;
-    EXPECT_NE(driver.Translate(dir.File("board.ndd"), dir.File("board.qfx")), 0);
-    SetMessageBoxHandler(nullptr);
-    return driver.stages;
+    RecordingHost host;
+    host.answer = false;
+    TranslationDriver driver(host);
+    EXPECT_EQ(driver.Translate(dir.File("board.ndd"), dir.File("board.qfx")),
+              TranslateStatus::Done);
+    return host.stages;
 }
 
 bool Contains(const std::vector<std::string>& all, const std::vector<std::string>& part) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "RecordingHost.h"
 #include "TestSupport.h"
 #include "model/LayerLookup.h"
 #include "model/LayoutModel.h"
@@ -15,20 +16,9 @@ using namespace testing_support;
 
 namespace {
 
-std::vector<std::string> g_messages;
-int CaptureBox(const std::string& text, int, int) {
-    g_messages.push_back(text);
-    return 1;
-}
-
 class LayerStackTest : public ::testing::Test {
   protected:
-    void SetUp() override {
-        ResetGlobals();
-        g_messages.clear();
-        SetMessageBoxHandler(&CaptureBox);
-    }
-    void TearDown() override { SetMessageBoxHandler(nullptr); }
+    void SetUp() override { ResetGlobals(); }
 
     int Parse(const std::string& text) { return ParseLayer(dir_.Write("board.ndd", text)); }
     const LayerRec& Layer(int i) const { return g_model.g_aLayers[i]; }
@@ -38,6 +28,8 @@ class LayerStackTest : public ::testing::Test {
     }
 
     ScratchDir dir_;
+    RecordingHost host_;
+    HostScope hostScope_{host_};
 };
 
 const char kStack[] =
@@ -88,7 +80,7 @@ TEST_F(LayerStackTest, A257thLayerStopsWithAMessage) {
     EXPECT_EQ(Parse(text), 0);
     EXPECT_EQ(g_model.g_nLayerCount, 256);
     EXPECT_EQ(LayerName(Layer(255)), "L255");
-    EXPECT_EQ(g_messages.size(), 1u);
+    EXPECT_EQ(host_.messages.size(), 1u);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Fixtures.h"
+#include "RecordingHost.h"
 #include "TestSupport.h"
 #include "model/LayoutModel.h"
 #include "model/NodeSet.h"
@@ -85,8 +86,9 @@ TEST(ParseTrace, SpatialRangeComparesTheFilesRawNumbers) {
 
 TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {
     MakeBoard();
-    std::vector<int> positions;
-    SetProgressHandler([&](int position) { positions.push_back(position); });
+    RecordingHost host;
+    HostScope hostScope(host);
+    std::vector<int>& positions = host.positions;
     std::string text = "%port \"X\" \"CLK\";\n";
     for (int i = 0; i < 302; ++i) text += "%trace \"TOP\" 1 0 0 1 1 \"CLK\";\n";
     ScratchDir dir;
@@ -97,7 +99,6 @@ TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {
     g_options.g_nQuiet = 1;  // a batch run has no progress bar
     ASSERT_EQ(ParseTrace(path, 0), 1);
     EXPECT_TRUE(positions.empty());
-    SetProgressHandler(nullptr);
 }
 
 TEST(ParseTrace, MissingInputFailsThePass) {
