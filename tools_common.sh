@@ -2,7 +2,7 @@
 set -euo pipefail
 
 NEEDED_PACKAGES=(g++ cmake make ccache pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-                 libdw-dev clang-format locales)
+                 libdw-dev clang-format locales qtbase5-dev libqt5svg5-dev)
 
 # A comma-decimal locale for the test that runs a translation under one.
 TEST_LOCALE=de_DE.UTF-8
