@@ -31,3 +31,9 @@ awk -v ms="$(((end - start) / 1000000))" '
             layers, shapes, nodes, traces, vias, components
         printf " written in %d.%03d s\n", ms / 1000, ms % 1000
     }' "$output"
+# The deck checked and drawn: one picture per conductor layer and the layer stack.
+pictures="$(dirname "$example")/pictures"
+status=0
+./build/qfxview/qfxview "$output" -o "$pictures" --svg | grep -v '^wrote ' || status=$?
+echo "Pictures:  $pictures/ (layer-*.png, layer-*.svg, stack.png)"
+exit "$status"

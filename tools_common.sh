@@ -1,8 +1,8 @@
 # Shared by run.sh and test.sh: installs what is missing and builds.
 set -euo pipefail
 
-NEEDED_PACKAGES=(g++ cmake make ccache libgtest-dev libgmock-dev libbenchmark-dev clang-format
-                 locales)
+NEEDED_PACKAGES=(g++ cmake make ccache pkg-config libgtest-dev libgmock-dev libbenchmark-dev
+                 libdw-dev clang-format locales qtbase5-dev libqt5svg5-dev)
 
 # A comma-decimal locale for the test that runs a translation under one.
 TEST_LOCALE=de_DE.UTF-8

@@ -37,7 +37,7 @@ std::string SideFilePath(const std::string& value) {
 int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
                      std::string& inputFile, std::string& outputFile) {
     if (args.size() < 2) return kCmdNoFile;
-    bool drillSeen = false, gapSeen = false;
+    bool drillSeen = false, gapSeen = false, pipeStart = false;
     size_t i = 1;
     for (; i < args.size(); ++i) {
         const std::string& a = args[i];
@@ -62,6 +62,8 @@ int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
             if (g_options.g_nBatchMode == 0) g_options.g_nBatchMode = 1;
         } else if (IsOption(a, "strict")) {
             g_options.g_bStrictStatus = true;
+        } else if (IsOption(a, "pipe")) {
+            pipeStart = true;
         } else if (IsOption(a, "log")) {
         } else if (a == "/v" || a == "/V") {
             g_options.g_bVerboseFlag = 1;
@@ -70,6 +72,8 @@ int ParseCommandLine(const std::vector<std::string>& args, std::string& logFile,
             break;
         }
     }
+    // The case comes over the pipe; the run mode options stand.
+    if (pipeStart) return kCmdPipeStart;
     if (i >= args.size()) {
         if (g_options.g_nBatchMode != 0) ReportMessage("Invalid arguments: file name missing.");
         return kCmdNoFile;

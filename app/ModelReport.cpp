@@ -5,6 +5,7 @@
 #include "app/TranslationLog.h"
 #include "base/FileChecks.h"
 #include "base/Platform.h"
+#include "base/SafeFile.h"
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
 #include "model/NodeSet.h"
@@ -53,6 +54,10 @@ void WriteAllSections(FILE* out, ModelAssignment* models, ComponentNodes* nodes)
     WriteFileEnd(out);
 }
 
+void DeleteTemporaryLog(const std::string& path) {
+    if (base::PathExists(path)) base::SafeDeleteFile(path);
+}
+
 }  // namespace
 
 int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
@@ -73,8 +78,8 @@ int WriteModelReport(const std::string& outputFile, ModelAssignment* models,
     bool written = base::CloseWritten(g_options.g_pOutputFile, reason);
     if (g_options.g_pTempLogFile) std::fclose(g_options.g_pTempLogFile);
     g_options.g_pTempLogFile = nullptr;
-    base::RemoveFile(base + "temp.log");
-    if (outputFile != base) base::RemoveFile(outputFile + "temp.log");
+    DeleteTemporaryLog(base + "temp.log");
+    if (outputFile != base) DeleteTemporaryLog(outputFile + "temp.log");
     if (!written) {
         ReportWriteFailure(outputFile, reason);
         return 0;

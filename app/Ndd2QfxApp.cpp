@@ -9,9 +9,11 @@
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
 #include "app/OutputGuard.h"
+#include "app/TerminalProgress.h"
 #include "app/TranslationDriver.h"
 #include "app/Usage.h"
 #include "base/FileChecks.h"
+#include "base/ParentPipe.h"
 #include "base/Platform.h"
 #include "base/ScopedClassicLocale.h"
 #include "model/BatchHost.h"
@@ -48,6 +50,16 @@ bool IsAbsolute(const std::string& path) {
 bool IsHelpRequest(const std::string& arg) {
     for (const char* form : {"-h", "-help", "--help", "/?"})
         if (EqualsNoCase(arg, form)) return true;
+    return false;
+}
+
+// The parent tool hands the case over the pipe; a failure leaves its words in the trace only.
+bool TakeCaseFromParent(std::string& logFile) {
+    std::string words;
+    if (base::GetCaseFromParent(&words, logFile, "I'm Gantry", true)) return true;
+    TraceStep(true, "faile to get case name from pipe");
+    while (!words.empty() && words.back() == '\n') words.pop_back();
+    if (!words.empty()) TraceStep(true, "%s", words.c_str());
     return false;
 }
 
@@ -106,6 +118,10 @@ int CNdd2QfxApp::InitInstance() {
         ReportMessage("Unknown file extension name.");
         return 0;
     }
+    if (result == kCmdPipeStart) {
+        if (!TakeCaseFromParent(o.g_strCmdLogFile)) return 0;
+        result = kCmdFilesTaken;
+    }
     for (std::string* p : {&o.g_strCmdLogFile, &o.g_strCmdInputFile, &o.g_strCmdOutputFile})
         *p = base::NativeSeparators(*p);
     std::string folder = WorkingFolder();
@@ -134,6 +150,7 @@ int CNdd2QfxApp::InitInstance() {
         TraceStep(true, "batch mode");
         o.g_strInputFile = o.g_strCmdInputFile;
         o.g_strOutputFile = o.g_strCmdOutputFile;
+        TerminalProgress line(stderr);
         // A batch run asks nothing, so it is never declined; a declined dialog run ends here.
         TranslateStatus status = driver.Translate(o.g_strInputFile, o.g_strOutputFile);
         if (status == TranslateStatus::Declined) std::exit(0);

@@ -88,6 +88,7 @@ void ResetTranslationState() {
 }  // namespace
 
 void TranslationDriver::ShowStage(const std::string& text) {
+    SetProgressStage(text);
     if (g_options.g_nQuiet == 0) host_.ShowStage(text);
 }
 
@@ -244,9 +245,9 @@ void TranslationDriver::BindComponentModels(const std::string& inputFile,
         &g_model.g_mapComponents, g_pModelAssignment.get(), inputFile, g_options.g_pOutputFile,
         g_options.g_pLogFile, outputFolder);
     if (!g_pModelAssignment) return;
-    for (ComponentRec* c : g_pModelAssignment->components) g_pModelAssignment->CopyBlockModel(*c);
+    g_pModelAssignment->CopyBlockModels();
     g_pComponentNodes->BindPinsToNodes(g_pModelAssignment->blocks);
-    for (ComponentRec* c : g_pModelAssignment->components) g_pModelAssignment->CopyBlockModel(*c);
+    g_pModelAssignment->CopyBlockModels();
 }
 
 int TranslationDriver::FailPipeline() {

@@ -1,14 +1,16 @@
 #include "base/Platform.h"
 
-#include "base/ScopedClassicLocale.h"
-
+#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <vector>
+
+#include "base/ScopedClassicLocale.h"
 
 namespace base {
 
@@ -98,6 +100,29 @@ std::string FormatTime(const char* format, std::time_t when) {
     char buf[512];
     size_t n = std::strftime(buf, sizeof buf, fmt.c_str(), &tmv);
     return std::string(buf, n);
+}
+
+const char* ErrorText(int error) {
+    return std::strerror(error);
+}
+
+size_t StackRoom() {
+    pthread_attr_t attr;
+    if (pthread_getattr_np(pthread_self(), &attr) != 0) return 0;
+    void* low = nullptr;
+    size_t size = 0;
+    int rc = pthread_attr_getstack(&attr, &low, &size);
+    pthread_attr_destroy(&attr);
+    char here = 0;
+    const char* mark = &here;
+    const char* bottom = static_cast<const char*>(low);
+    if (rc != 0 || mark < bottom || mark > bottom + size) return 0;
+    return static_cast<size_t>(mark - bottom);
+}
+
+std::string FolderWithSeparator(const std::string& path) {
+    size_t sep = LastSeparator(path);
+    return sep == std::string::npos ? std::string() : path.substr(0, sep + 1);
 }
 
 }  // namespace base

@@ -28,4 +28,11 @@ std::string ProgramFolder(const char* argv0);
 // strftime under the "C" locale; "%#d" is taken as the day without a leading zero.
 std::string FormatTime(const char* format, std::time_t when);
 
+// The system's words for an error number.
+const char* ErrorText(int error);
+// Bytes of stack left below the caller's frame on the calling thread; 0 when unknown.
+size_t StackRoom();
+// Folder part of a path: the text up to and including its last separator of either kind.
+std::string FolderWithSeparator(const std::string& path);
+
 }  // namespace base

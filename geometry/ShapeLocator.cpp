@@ -121,3 +121,17 @@ void ShapeLocator::Visit(int32_t layer, double x, double y,
     for (uint32_t k = grid.offsets[cell]; k < grid.offsets[cell + 1]; ++k)
         if (visit(grid.shapes[k])) return;
 }
+
+int ShapeLocator::Holds(int32_t i, double x, double y) {
+    // Below this many points the plain walk is as quick as the index.
+    constexpr int32_t kBandedPolygon = 64;
+    const ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(i)];
+    if (s.geometry == kGeometryCircle || s.pointCount < kBandedPolygon)
+        return PointInShape(i, x, y, true);
+    auto found = bands_.find(i);
+    if (found == bands_.end()) {
+        found = bands_.emplace(i, PolygonBands()).first;
+        found->second.Build(i);
+    }
+    return found->second.Holds(x, y);
+}

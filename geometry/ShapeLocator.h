@@ -12,6 +12,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "geometry/PointInShape.h"
+
 class ShapeLocator {
   public:
     // Works on the shape table and boxes as they stand: build it after SortShapes and use it
@@ -21,6 +23,10 @@ class ShapeLocator {
     // Calls visit(i) in rising table order for the shapes of layer that may hold (x, y), until
     // visit returns true. Every shape whose box holds the point is among them.
     void Visit(int32_t layer, double x, double y, const std::function<bool(int32_t)>& visit);
+
+    // PointInShape(i, x, y, true), with the edges of a polygon of many points indexed on first
+    // use, so that many questions to one plane outline do not each walk all of it.
+    int Holds(int32_t i, double x, double y);
 
   private:
     struct LayerGrid {
@@ -33,4 +39,5 @@ class ShapeLocator {
 
     const LayerGrid& GridOf(int32_t layer);
     std::unordered_map<int32_t, LayerGrid> grids_;
+    std::unordered_map<int32_t, PolygonBands> bands_;
 };

@@ -1,5 +1,8 @@
 #include "ibis/ModelAssignment.h"
 
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
 #include <utility>
 
 #include "ibis/ComponentValue.h"
@@ -78,6 +81,29 @@ void ModelAssignment::ResolveModels() {
     });
 }
 
+namespace {
+
+// Everything a model gives a pin; its net stays its own.
+void CopyPinModel(const PinRec& from, PinRec& to) {
+    to.hasModel = from.hasModel;
+    to.nodeNames = from.nodeNames;
+    to.ioNode = from.ioNode;
+    to.pullupRef = from.pullupRef;
+    to.pulldownRef = from.pulldownRef;
+    to.powerClampRef = from.powerClampRef;
+    to.gndClampRef = from.gndClampRef;
+    to.powerGroup = from.powerGroup;
+    to.groundGroup = from.groundGroup;
+    to.modelName = from.modelName;
+    to.modelNameAsRead = from.modelNameAsRead;
+    to.modelType = from.modelType;
+    to.signalName = from.signalName;
+    to.pinClass = from.pinClass;
+    to.name = from.name;
+}
+
+}  // namespace
+
 void ModelAssignment::CopyBlockModel(ComponentRec& c) {
     std::vector<ComponentRec*>* block = blockComponents.Find(c.blockName);
     if (!block) return;
@@ -95,24 +121,44 @@ void ModelAssignment::CopyBlockModel(ComponentRec& c) {
         d->blockName = c.blockName;
         d->partNumber = c.partNumber;
         auto to = d->pins.begin();
-        for (auto from = c.pins.begin(); from != c.pins.end() && to != d->pins.end();
-             ++from, ++to) {
-            // Everything the model gave the pin; its net stays its own.
-            to->hasModel = from->hasModel;
-            to->nodeNames = from->nodeNames;
-            to->ioNode = from->ioNode;
-            to->pullupRef = from->pullupRef;
-            to->pulldownRef = from->pulldownRef;
-            to->powerClampRef = from->powerClampRef;
-            to->gndClampRef = from->gndClampRef;
-            to->powerGroup = from->powerGroup;
-            to->groundGroup = from->groundGroup;
-            to->modelName = from->modelName;
-            to->modelNameAsRead = from->modelNameAsRead;
-            to->modelType = from->modelType;
-            to->signalName = from->signalName;
-            to->pinClass = from->pinClass;
-            to->name = from->name;
+        for (auto from = c.pins.begin(); from != c.pins.end() && to != d->pins.end(); ++from, ++to)
+            CopyPinModel(*from, *to);
+    }
+}
+
+void ModelAssignment::CopyBlockModels() {
+    // A copy from a component makes every member of its block equal to it in all copied fields
+    // and in the pins that both have. After the first, a member's own copy repeats what is
+    // there already, except for the pins at and beyond the longest pin list copied so far.
+    struct BlockCopy {
+        bool agreed = false;
+        size_t copiedPins = 0;
+    };
+    std::unordered_map<const ComponentRec*, const std::vector<ComponentRec*>*> blockOf;
+    blockComponents.ForEach([&](const std::string&, std::vector<ComponentRec*>& members) {
+        for (const ComponentRec* m : members) blockOf.emplace(m, &members);
+    });
+    std::unordered_map<const std::vector<ComponentRec*>*, BlockCopy> progress;
+    for (ComponentRec* c : components) {
+        std::vector<ComponentRec*>* block = blockComponents.Find(c->blockName);
+        if (!block) continue;
+        BlockCopy& p = progress[block];
+        auto own = blockOf.find(c);
+        const bool member = own != blockOf.end() && own->second == block;
+        if (!member || !p.agreed) {
+            CopyBlockModel(*c);
+            p.agreed = true;
+            p.copiedPins = std::max(p.copiedPins, c->pins.size());
+            continue;
         }
+        if (c->pins.size() <= p.copiedPins) continue;
+        for (ComponentRec* d : *block) {
+            if (d == c || d->pins.size() <= p.copiedPins) continue;
+            auto from = std::next(c->pins.begin(), static_cast<std::ptrdiff_t>(p.copiedPins));
+            auto to = std::next(d->pins.begin(), static_cast<std::ptrdiff_t>(p.copiedPins));
+            for (; from != c->pins.end() && to != d->pins.end(); ++from, ++to)
+                CopyPinModel(*from, *to);
+        }
+        p.copiedPins = c->pins.size();
     }
 }

@@ -21,6 +21,10 @@ class ModelAssignment {
     void ResolveModels();
     // Copies the read model of an active component to the other components of its block.
     void CopyBlockModel(ComponentRec& component);
+    // CopyBlockModel for every component in turn, with the same result in time linear in the
+    // pins: once one copy has made a block's members agree, a later member's copy changes only
+    // the pins beyond those already copied.
+    void CopyBlockModels();
 
     // Model type to node list; built by ResolveModels.
     base::StringMap<std::string> modelNodes{base::kComponentBuckets};

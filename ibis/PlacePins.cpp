@@ -49,7 +49,7 @@ int32_t PinLayer(const ComponentRec& c, const PadStackRec& stack) {
 
 // The drill radius for a pin's via: the smallest pad radius of the size pass, which also
 // lowers the padstack's own drill.
-uint16_t PinDrill(PadStackRec& stack, const std::string& name) {
+uint32_t PinDrill(PadStackRec& stack, const std::string& name) {
     double radius = stack.drill >= 0.0 ? stack.drill : 0.0;
     PadStackSizeRec* const* size = g_model.g_mapPadStackSizes.Find(name);
     if (size && *size) {

@@ -1,7 +1,7 @@
 #pragma once
 // The board as the translation sees it: one global record of tables, filled by the reader
 // passes in a fixed order, cleaned, and written. Lengths are doubles in mm, areas in mm².
-// Net index: position in the sorted net table; 65534 and 65535 mean no net. Layer index:
+// Net index: position in the sorted net table; kNoNet and kNoNetAlt mean no net. Layer index:
 // position in the layer table, top first; -1 for an unknown name.
 #include <cstdint>
 #include <memory>
@@ -12,6 +12,7 @@
 #include "base/TextFile.h"
 #include "model/ComponentRecords.h"
 #include "model/LayerRecords.h"
+#include "model/NetIndex.h"
 #include "model/NodeRec.h"
 #include "model/PadRecords.h"
 #include "model/ShapeRec.h"
@@ -19,8 +20,6 @@
 #include "model/ViaOutRec.h"
 #include "model/ViaRec.h"
 
-constexpr int32_t kNoNet = 65535;
-constexpr int32_t kNoNetAlt = 65534;
 constexpr int kNetNameBytes = 128;
 
 struct NetRec {

@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 
+#include "model/NetIndex.h"
+
 struct PadStackRec;
 
 constexpr double kNodeTolerance = 6e-5;
@@ -18,10 +20,11 @@ struct NodeRec {
     int32_t layer = 0;
     mutable double x = 0.0, y = 0.0;
     mutable uint32_t id = 0;
-    mutable int32_t net = 65535;
+    mutable int32_t net = kNoNet;
     mutable uint16_t contact = 0;
-    mutable uint16_t viaRefs = 0;
-    mutable uint16_t traceRefs = 1;
+    // As wide as the node numbers: one node may hold any number of ends.
+    mutable uint32_t viaRefs = 0;
+    mutable uint32_t traceRefs = 1;
     mutable std::string label;  // pin name; empty when the node has none
     mutable int32_t mirrored = 1;
     mutable double rotation = 0.0;

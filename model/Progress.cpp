@@ -6,6 +6,8 @@
 namespace {
 
 struct ProgressState {
+    std::function<void(const std::string&, int)> observer;
+    std::string stage;
     int position = 0;
     int lines = 0;
 };
@@ -15,12 +17,25 @@ ProgressState g_progress;
 }  // namespace
 
 void ResetProgress() {
+    // The observer stays: it is the run's, not the translation's.
+    auto observer = std::move(g_progress.observer);
     g_progress = ProgressState();
+    g_progress.observer = std::move(observer);
+}
+
+void SetProgressStage(const std::string& stage) {
+    g_progress.stage = stage;
+    if (g_progress.observer) g_progress.observer(g_progress.stage, g_progress.position);
+}
+
+void SetProgressObserver(std::function<void(const std::string&, int)> observer) {
+    g_progress.observer = std::move(observer);
 }
 
 void SetProgress(int position) {
     g_progress.position = position;
     if (g_options.g_nQuiet == 0) CurrentHost().SetProgress(position);
+    if (g_progress.observer) g_progress.observer(g_progress.stage, position);
 }
 
 void StartPassProgress() {
@@ -29,7 +44,7 @@ void StartPassProgress() {
 }
 
 void CountPassLine() {
-    if (g_options.g_nQuiet != 0) return;
+    if (g_options.g_nQuiet != 0 && !g_progress.observer) return;
     if (++g_progress.lines <= 150) return;
     g_progress.lines = 0;
     SetProgress(g_progress.position + 5 > 50 ? 50 : g_progress.position + 5);

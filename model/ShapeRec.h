@@ -1,6 +1,8 @@
 #pragma once
 #include <cstdint>
 
+#include "model/NetIndex.h"
+
 // polarity values of ShapeRec
 constexpr int32_t kPolaritySplit = 0;  // a piece split off a polygon
 constexpr int32_t kPolarityCopper = 2;
@@ -18,7 +20,7 @@ struct ShapeRec {
     int32_t pointCount = 0;
     int32_t discarded = 0;
     int32_t undiscardable = 0;
-    int32_t net = 65535;
+    int32_t net = kNoNet;
     double area = 0.0;
 };
 

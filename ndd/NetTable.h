@@ -12,7 +12,7 @@ void ParseNet(base::LineStream& stream);
 void BuildDisplayNetNames();
 // Colour index of net i becomes i mod 11, plus 1.
 void AssignNetColors();
-// Case-insensitive binary search; 65535 when not found.
+// Case-insensitive binary search; kNoNet when not found.
 int32_t NetIndexByName(const std::string& name);
 // True when no net selection is in force, or when the name (found case-sensitively) is
 // among the selected nets.

@@ -33,5 +33,5 @@ std::string TraceLayerName(const std::string& token);
 // The net of a trace line from its net token as CutTraceFields gives it (a trailing ';' is
 // cut there), without its quotes. Returns false when the line is dropped: no net while
 // etches without net are left out, or a net outside the selection. net receives the net
-// index, 65535 for an unknown name.
+// index, kNoNet for an unknown name.
 bool TakeTraceNet(std::string token, int32_t& net);

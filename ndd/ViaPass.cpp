@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr uint16_t kNoDrill = 65535;
+constexpr uint32_t kNoDrill = UINT32_MAX;
 
 struct ViaFields {
     std::string padStack;
@@ -64,7 +64,7 @@ void ReadViaLine(const std::string& line, double& currentRadius) {
         currentRadius = (*size)->dbMinRadius;
     if (!stack) return;
     if (stack->drill < 0.0 || stack->drill > currentRadius) stack->drill = currentRadius;
-    uint16_t drillIndex = AddDrillRadius(currentRadius);
+    uint32_t drillIndex = AddDrillRadius(currentRadius);
     if (OutsideSpatialRange(x, y)) return;
 
     ViaRec via;
@@ -82,7 +82,7 @@ void ReadViaLine(const std::string& line, double& currentRadius) {
 
 }  // namespace
 
-uint16_t AddDrillRadius(double radius, size_t* outPosition) {
+uint32_t AddDrillRadius(double radius, size_t* outPosition) {
     std::vector<DrillRadius>& table = g_model.g_aDrillRadii;
     size_t lo = 0, hi = table.size();
     while (lo < hi) {
@@ -94,10 +94,10 @@ uint16_t AddDrillRadius(double radius, size_t* outPosition) {
     }
     if (outPosition) *outPosition = lo;
     if (lo < table.size() && table[lo].radius == radius) return table[lo].index;
-    // Indices are 16-bit and 65535 means none.
+    // kNoDrill means none.
     try {
         if (table.size() >= kNoDrill) throw std::bad_alloc();
-        uint16_t index = static_cast<uint16_t>(table.size());
+        uint32_t index = static_cast<uint32_t>(table.size());
         table.insert(table.begin() + static_cast<std::ptrdiff_t>(lo), DrillRadius{radius, index});
         return index;
     } catch (const std::bad_alloc&) {

@@ -10,6 +10,6 @@
 int ParseVia(const std::string& path);
 
 // Index of radius in the drill radius table, adding it with the next free index when it is
-// new; outPosition, when given, receives its place in the sorted table. 65535 when the table
+// new; outPosition, when given, receives its place in the sorted table. UINT32_MAX when the table
 // cannot take it.
-uint16_t AddDrillRadius(double radius, size_t* outPosition = nullptr);
+uint32_t AddDrillRadius(double radius, size_t* outPosition = nullptr);

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
+#include "geometry/NodeGrid.h"
 #include "geometry/PointInShape.h"
 #include "model/LayoutModel.h"
 #include "model/NodeSet.h"
@@ -24,24 +26,46 @@ bool IsVoid(const ShapeRec& s) {
 
 // A via node takes the position of the via's upper node. The move is within the node
 // tolerance of where the node was found, so the set's order is kept.
-void PlaceAt(const NodeRec* node, double x, double y) {
+void PlaceAt(const NodeRec* node, double x, double y, NodeGrid& grid) {
     NodeRec* n = const_cast<NodeRec*>(node);
+    const double oldX = n->x, oldY = n->y;
     n->x = x;
     n->y = y;
+    grid.Moved(node, oldX, oldY);
+}
+
+// AddViaNode, entering a node that is new in the grid.
+const NodeRec* AddGridNode(double x, double y, int32_t layer, int32_t net, uint16_t contact,
+                           NodeGrid& grid) {
+    const uint32_t count = g_model.g_nNodeCount;
+    const NodeRec* node = AddViaNode(x, y, layer, net, contact, 1);
+    if (node && g_model.g_nNodeCount != count) grid.Add(node);
+    return node;
+}
+
+// The layers that some via crosses between its ends: those whose nodes NodeNear asks for.
+std::vector<bool> MiddleLayers() {
+    std::vector<bool> wanted(static_cast<size_t>(std::max<int32_t>(g_model.g_nLayerCount, 0)));
+    for (const ViaRec& via : g_model.g_aVias) {
+        if (via.noContact) continue;
+        const int32_t end = std::min<int32_t>(via.endLayer, g_model.g_nLayerCount);
+        for (int32_t L = via.startLayer + 1; L < end; ++L) wanted[static_cast<size_t>(L)] = true;
+    }
+    return wanted;
 }
 
 // One via's walk down its layers.
 class ViaBuilder {
   public:
-    ViaBuilder(const ViaRec& via, ShapeLocator& locator, uint32_t& number)
-        : via_(via), locator_(locator), number_(number) {}
+    ViaBuilder(const ViaRec& via, ShapeLocator& locator, NodeGrid& grid, uint32_t& number)
+        : via_(via), locator_(locator), grid_(grid), number_(number) {}
 
     bool Build() {
         int32_t shape = kNoShape;
         const int contact =
             via_.noContact ? 0 : ViaContact(via_.startLayer, via_, &shape, &locator_);
-        const NodeRec* upper = AddViaNode(via_.x, via_.y, via_.startLayer, via_.net,
-                                          static_cast<uint16_t>(contact), 1);
+        const NodeRec* upper = AddGridNode(via_.x, via_.y, via_.startLayer, via_.net,
+                                           static_cast<uint16_t>(contact), grid_);
         if (!upper) return false;
         upper->contact = static_cast<uint16_t>(contact);
         x_ = upper->x;
@@ -85,14 +109,29 @@ class ViaBuilder {
         return true;
     }
 
-    // A node of the layer within the pad radius of the centre: a trace end on the pad.
+    // A node of the layer within the pad radius of the centre: a trace end on the pad. The
+    // answer is whether the walk of the set from the lower bound of (L, x - r, y - r) to the
+    // upper bound of (L, x + r, y + r) meets such a node; the grid finds the nodes near enough
+    // and the set's order tells whether that walk would pass them.
     bool NodeNear(int32_t L, double r) const {
         // No distance is below a radius of 0 or less; nor is the range walk bounded then.
         if (!(r > 0.0)) return false;
-        bool found = false;
-        WalkNodeRange(L, x_ - r, y_ - r, x_ + r, y_ + r, [&](const NodeRec& n) {
+        NodeRec low, high;
+        low.layer = high.layer = L;
+        low.x = x_ - r, low.y = y_ - r;
+        high.x = x_ + r, high.y = y_ + r;
+        auto near = [&](const NodeRec& n) {
             const double dx = n.x - x_, dy = n.y - y_;
-            found = std::sqrt(dx * dx + dy * dy) < r;
+            return std::sqrt(dx * dx + dy * dy) < r;
+        };
+        bool found = false;
+        const bool told = grid_.ForNear(L, x_, y_, r, [&](const NodeRec& n) {
+            if (!found && n.layer == L && near(n) && !NodeOrder()(n, low) && !NodeOrder()(high, n))
+                found = true;
+        });
+        if (told) return found;
+        WalkNodeRange(L, low.x, low.y, high.x, high.y, [&](const NodeRec& n) {
+            found = near(n);
             return found;
         });
         return found;
@@ -111,12 +150,12 @@ class ViaBuilder {
                 const bool noNetSkip = via_.net == kNoNet && g_options.g_nIncludeNoNetEtches;
                 if (foreign || noNetSkip) {
                     if (gap && s.net != via_.net && RealNet(s.net) && RealNet(via_.net) &&
-                        PointInShape(i, x_, y_, true))
+                        locator_.Holds(i, x_, y_))
                         givenUp = true;
                     return givenUp;
                 }
             }
-            return PointInShape(i, x_, y_, true) != 0;
+            return locator_.Holds(i, x_, y_) != 0;
         });
         return givenUp ? kNoShape : hit;
     }
@@ -127,12 +166,12 @@ class ViaBuilder {
         if (node) {
             node->viaRefs = 1;
         } else {
-            node = AddViaNode(x_, y_, L, via_.net, 1, 1);
+            node = AddGridNode(x_, y_, L, via_.net, 1, grid_);
             if (!node) return false;
             node->padStack = via_.padStack;
             node->rotation = via_.rotation;
         }
-        if (placeAtUpper) PlaceAt(node, x_, y_);
+        if (placeAtUpper) PlaceAt(node, x_, y_, grid_);
         AddStretch(node);
         return true;
     }
@@ -141,10 +180,10 @@ class ViaBuilder {
         int32_t shape = kNoShape;
         const int contact = via_.noContact ? 0 : ViaContact(via_.endLayer, via_, &shape, &locator_);
         DiscardEndVoid(shape);
-        const NodeRec* lower =
-            AddViaNode(via_.x, via_.y, via_.endLayer, via_.net, static_cast<uint16_t>(contact), 1);
+        const NodeRec* lower = AddGridNode(via_.x, via_.y, via_.endLayer, via_.net,
+                                           static_cast<uint16_t>(contact), grid_);
         if (!lower) return false;
-        PlaceAt(lower, x_, y_);
+        PlaceAt(lower, x_, y_, grid_);
         lower->contact = static_cast<uint16_t>(contact);
         AddStretch(lower);
         return true;
@@ -158,9 +197,9 @@ class ViaBuilder {
         out.net = via_.net;
         out.drillIndex = via_.drillIndex;
         out.upperNode = upperId_;
-        out.upperNet = static_cast<uint16_t>(upperNet_);
+        out.upperNet = upperNet_;
         out.lowerNode = lower->id;
-        out.lowerNet = static_cast<uint16_t>(lower->net);
+        out.lowerNet = lower->net;
         g_model.g_aViaOut.push_back(out);
         upperId_ = lower->id;
         upperNet_ = lower->net;
@@ -181,6 +220,7 @@ class ViaBuilder {
 
     const ViaRec& via_;
     ShapeLocator& locator_;
+    NodeGrid& grid_;
     uint32_t& number_;
     double x_ = 0.0, y_ = 0.0;
     uint32_t upperId_ = 0;
@@ -192,8 +232,10 @@ class ViaBuilder {
 int MakeVias() {
     g_model.g_aViaOut.clear();
     ShapeLocator locator;
+    NodeGrid grid;
+    grid.Build(MiddleLayers());
     uint32_t number = 1;
     for (const ViaRec& via : g_model.g_aVias)
-        if (!ViaBuilder(via, locator, number).Build()) return 0;
+        if (!ViaBuilder(via, locator, grid, number).Build()) return 0;
     return 1;
 }

@@ -10,6 +10,7 @@
 #include "model/NodeSet.h"
 #include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
+#include "qfx/NumberText.h"
 #include "qfx/OutputScale.h"
 
 namespace {
@@ -17,7 +18,7 @@ namespace {
 // A via padstack with no drill of its own takes the radius that its via's drill index
 // selects, so that the library prints a hole for it.
 void FixUpPadStackDrills() {
-    std::unordered_map<uint16_t, double> radiusOfIndex;
+    std::unordered_map<uint32_t, double> radiusOfIndex;
     for (const DrillRadius& drill : g_model.g_aDrillRadii)
         radiusOfIndex[drill.index] = drill.radius;
     for (const ViaOutRec& via : g_model.g_aViaOut) {
@@ -42,20 +43,34 @@ bool PrintsForNet(int32_t net) {
     return (net != kNoNet && net != kNoNetAlt) || g_options.g_nIncludeNoNetEtches != 0;
 }
 
-void WriteNodeLine(FILE* out, const NodeRec& node, const std::string& name, int32_t bottom) {
+// "%s X = %.10emm Y = %.10emm Layer = %s$%s%s Contact = %d", then the padstack's
+// " PadStack = %s%s AbsoluteRotation = %.6f\n" or "\n"; texts end at a NUL as %s ends them.
+void WriteNodeLine(FILE* out, const NodeRec& node, const std::string& name, int32_t bottom,
+                   std::string& line) {
     const LayerRec* layer = LayerAt(node.layer);
-    const std::string& affix = Affix();
-    std::fprintf(out, "%s X = %.10emm Y = %.10emm Layer = %s$%s%s Contact = %d", name.c_str(),
-                 node.x * kOutputScale, node.y * kOutputScale, LayerWord(layer), affix.c_str(),
-                 layer ? LayerName(*layer).c_str() : "", node.contact);
-    if (!node.padStack) {
-        std::fprintf(out, "\n");
-        return;
+    const char* affix = Affix().c_str();
+    line.assign(name.c_str());
+    line += " X = ";
+    AppendExp(line, node.x * kOutputScale, 10);
+    line += "mm Y = ";
+    AppendExp(line, node.y * kOutputScale, 10);
+    line += "mm Layer = ";
+    line += LayerWord(layer);
+    line += '$';
+    line += affix;
+    if (layer) line += LayerName(*layer).c_str();
+    line += " Contact = ";
+    AppendInt(line, node.contact);
+    if (node.padStack) {
+        line += " PadStack = ";
+        line += affix;
+        line += node.padStack->name.c_str();
+        if (node.layer == bottom && node.mirrored != 0) line += "_Mirrd";
+        line += " AbsoluteRotation = ";
+        AppendFixed(line, node.rotation, 6);
     }
-    std::string padStack = node.padStack->name;
-    if (node.layer == bottom && node.mirrored != 0) padStack += "_Mirrd";
-    std::fprintf(out, " PadStack = %s%s AbsoluteRotation = %.6f\n", affix.c_str(), padStack.c_str(),
-                 node.rotation);
+    line += '\n';
+    PutText(out, line);
 }
 
 }  // namespace
@@ -68,6 +83,7 @@ void WriteNodes(FILE* out) {
     std::unordered_set<std::string> printed;
     printed.reserve(count);
     const int32_t bottom = LastConductorLayer();
+    std::string line;
     for (size_t i = 0; i < count; ++i) {
         const NodeRec& node = nodes[i];
         if (node.viaRefs == 0 && node.traceRefs == 0) continue;
@@ -75,6 +91,6 @@ void WriteNodes(FILE* out) {
         std::string name = "Node" + Affix() + std::to_string(static_cast<int32_t>(node.id)) +
                            PinLabelSuffix(node.label) + NetSuffix(node.net);
         if (!printed.insert(name).second) continue;
-        WriteNodeLine(out, node, name, bottom);
+        WriteNodeLine(out, node, name, bottom, line);
     }
 }

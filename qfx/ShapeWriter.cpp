@@ -7,6 +7,7 @@
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
+#include "qfx/NumberText.h"
 #include "qfx/OutputScale.h"
 
 namespace {
@@ -25,7 +26,7 @@ std::string ColorField(int32_t net) {
     return name ? std::string("Color = ") + name : std::string();
 }
 
-// The Box line names its net by the plain name, and leaves the suffix out only for 65535.
+// The Box line names its net by the plain name, and leaves the suffix out only for kNoNet.
 std::string BoxNetSuffix(int32_t net) {
     if (!g_options.g_bAppendNetName || net == kNoNet) return std::string();
     return "::" + PlainNetName(net);
@@ -51,14 +52,20 @@ bool AsBox(const ShapePoint* p, Box& box) {
     return false;
 }
 
+// Two points a line: "  %emm %emm %emm %emm" first, "+   %emm %emm %emm %emm" after.
 void WritePolygonPoints(FILE* out, const ShapePoint* p, int count) {
+    std::string line;
     for (int k = 0; k < count; k += 2) {
-        std::fprintf(out, k == 0 ? "  %emm %emm" : "+   %emm %emm", p[k].x * kOutputScale,
-                     p[k].y * kOutputScale);
-        if (k + 1 < count)
-            std::fprintf(out, " %emm %emm\n", p[k + 1].x * kOutputScale, p[k + 1].y * kOutputScale);
-        else
-            std::fprintf(out, "\n");
+        line.assign(k == 0 ? "  " : "+   ");
+        for (int j = k; j < k + 2 && j < count; ++j) {
+            if (j > k) line += ' ';
+            AppendExp(line, p[j].x * kOutputScale, 6);
+            line += "mm ";
+            AppendExp(line, p[j].y * kOutputScale, 6);
+            line += "mm";
+        }
+        line += '\n';
+        PutText(out, line);
     }
 }
 

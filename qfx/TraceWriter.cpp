@@ -6,6 +6,7 @@
 #include "model/NodeSet.h"
 #include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
+#include "qfx/NumberText.h"
 #include "qfx/OutputScale.h"
 
 namespace {
@@ -35,16 +36,29 @@ std::string NodeReference(int32_t id) {
 void WriteTraces(FILE* out) {
     const std::vector<TraceRec>& traces = g_model.g_aTraces;
     const std::vector<int32_t>& nets = g_model.g_aTraceNets;
+    std::string line;
     for (size_t t = 0; t < traces.size(); ++t) {
         const TraceRec& trace = traces[t];
         const int32_t net = t < nets.size() ? nets[t] : kNoNet;
         if (!ReachesFile(trace, net)) continue;
-        std::fprintf(out, "Trace%s%d%s StartingNode = %s EndingNode = %s Width = %emm",
-                     Affix().c_str(), static_cast<int>(t), NetSuffix(net).c_str(),
-                     NodeReference(trace.startNode).c_str(), NodeReference(trace.endNode).c_str(),
-                     trace.width * kOutputScale);
+        // "Trace%s%d%s StartingNode = %s EndingNode = %s Width = %emm", " Color = %s", "\n".
+        line.assign("Trace");
+        line += Affix().c_str();
+        AppendInt(line, static_cast<int>(t));
+        line += NetSuffix(net).c_str();
+        line += " StartingNode = ";
+        line += NodeReference(trace.startNode).c_str();
+        line += " EndingNode = ";
+        line += NodeReference(trace.endNode).c_str();
+        line += " Width = ";
+        AppendExp(line, trace.width * kOutputScale, 6);
+        line += "mm";
         const char* color = trace.color != 0 ? NetColorName(trace.color) : nullptr;
-        if (color) std::fprintf(out, " Color = %s", color);
-        std::fprintf(out, "\n");
+        if (color) {
+            line += " Color = ";
+            line += color;
+        }
+        line += '\n';
+        PutText(out, line);
     }
 }

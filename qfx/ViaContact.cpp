@@ -21,7 +21,8 @@ int ViaContact(int32_t layer, const ViaRec& via, int32_t* shapeOut, ShapeLocator
     *shapeOut = kNoShape;
     if (IsDielectricOrUnknown(layer)) return 0;
     const int32_t hit = FirstShapeHolding(layer, via.x, via.y, locator, [&](int32_t i) {
-        return PointInShape(i, via.x, via.y, true) != 0;
+        return (locator ? locator->Holds(i, via.x, via.y) : PointInShape(i, via.x, via.y, true)) !=
+               0;
     });
     if (hit == kNoShape) return 1;
     *shapeOut = hit;

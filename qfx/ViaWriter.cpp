@@ -9,9 +9,10 @@
 namespace {
 
 // The pin label of a node id, through the id-to-index map.
-std::string NodeLabel(uint32_t id) {
+const std::string& NodeLabel(uint32_t id) {
+    static const std::string none;
     const auto& index = g_model.g_aNodeIndex;
-    if (id >= index.size() || index[id] >= g_model.g_aNodes.size()) return std::string();
+    if (id >= index.size() || index[id] >= g_model.g_aNodes.size()) return none;
     return g_model.g_aNodes[index[id]].label;
 }
 

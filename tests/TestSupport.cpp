@@ -3,6 +3,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -22,8 +24,26 @@ ScratchDir::ScratchDir() {
     path_ = made ? made : "/tmp";
 }
 
+// With NDD2QFX_KEEP_DECKS naming a folder, the decks that a test left are copied there
+// before the folder goes, named after the test, so that qfxview can check them.
+static void KeepDecks(const std::string& path) {
+    const char* keep = std::getenv("NDD2QFX_KEEP_DECKS");
+    const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    if (!keep || !*keep || !test) return;
+    std::string prefix = std::string(test->test_suite_name()) + "." + test->name() + ".";
+    for (char& c : prefix)
+        if (c == '/') c = '_';
+    std::string cmd = "cd '" + path +
+                      "' && for f in $(find . -maxdepth 2 -name '*.qfx' -type f); do "
+                      "cp \"$f\" '" +
+                      keep + "/" + prefix + "'$(echo \"${f#./}\" | tr / _); done";
+    if (std::system(cmd.c_str()) != 0) {
+    }
+}
+
 ScratchDir::~ScratchDir() {
     if (path_.find("ndd2qfx_test_") == std::string::npos) return;
+    KeepDecks(path_);
     std::string cmd = "chmod -R u+w '" + path_ + "' 2>/dev/null; rm -rf '" + path_ + "'";
     if (std::system(cmd.c_str()) != 0) {
     }

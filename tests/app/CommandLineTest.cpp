@@ -60,6 +60,11 @@ TEST(CommandLine, NamesOptionsAndResults) {
          {kCmdFilesTaken, "", "~/a.ndd", "", "~/t.txt", "~/dir/x.hkp", 1}},
         {{"-hkp", "b.ndd", "a.ndd"}, {kCmdFilesTaken, "", "~/a.ndd", "", "", "~/b.ndd", 0}},
         {{"-traces"}, {kCmdNoFile, "", "", "", "", "", 0}},
+        // Started by the parent tool: the run mode options stand, names are not read.
+        {{"-pipe"}, {kCmdPipeStart, "", "", "", "", "", 0}},
+        {{"/PIPE", "-NoUI"}, {kCmdPipeStart, "", "", "", "", "", -1}},
+        {{"-b", "-Pipe", "a.ndd", "b.qfx"}, {kCmdPipeStart, "", "", "", "", "", 1}},
+        {{"a.ndd", "-pipe"}, {kCmdFilesTaken, "", "~/a.ndd", "-pipe", "", "", 0}},
     };
     for (const auto& row : rows) {
         Parsed want = row.want;
@@ -69,6 +74,7 @@ TEST(CommandLine, NamesOptionsAndResults) {
     }
     EXPECT_EQ(Parse({"a.qfx"}).result, kCmdUnknownExtension);
     EXPECT_EQ(Parse({"-x", "a.ndd"}).result, kCmdUnknownExtension);  // -x is the first name
+    EXPECT_EQ(Parse({"-pipes"}).result, kCmdUnknownExtension);
     EXPECT_EQ(Parse({}).result, kCmdNoFile);
     EXPECT_EQ(Parse({"-NoUI"}).result, kCmdNoFile);
 }

@@ -273,7 +273,8 @@ void PlainClearTinyTraces(std::vector<TraceRec>& traces, std::vector<NodeRec>& n
         throw std::runtime_error("no node");
     };
     auto lower = [](NodeRec& n, int by) {
-        n.traceRefs = n.traceRefs > by ? static_cast<uint16_t>(n.traceRefs - by) : 0;
+        const uint32_t count = static_cast<uint32_t>(by);
+        n.traceRefs = n.traceRefs > count ? n.traceRefs - count : 0;
     };
     for (size_t t = 0; t < traces.size(); ++t) {
         if (flags[t] != 0 || traces[t].width < 0) continue;

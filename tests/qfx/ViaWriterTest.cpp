@@ -28,7 +28,7 @@ class ViaWriterTest : public ::testing::Test {
         g_model.g_aNodeIndex = {0, 1};
         stack.name = "VIA20";
     }
-    ViaOutRec Stretch(uint32_t number, int32_t net, uint16_t upperNet, uint16_t lowerNet) {
+    ViaOutRec Stretch(uint32_t number, int32_t net, int32_t upperNet, int32_t lowerNet) {
         ViaOutRec v;
         v.number = number;
         v.upperNode = 0;
