@@ -9,14 +9,10 @@
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
 #include "app/TranslationDriver.h"
-<<<<<<< HEAD
 #include "base/ParentPipe.h"
-#include "base/Platform.h"
-=======
 #include "base/Platform.h"
 #include "base/ScopedClassicLocale.h"
 #include "model/BatchHost.h"
->>>>>>> main
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
 #include "model/TranslationOptions.h"
