@@ -4,10 +4,7 @@
 
 #include "app/TranslationLog.h"
 #include "base/Platform.h"
-<<<<<<< HEAD
 #include "base/SafeFile.h"
-=======
->>>>>>> main
 #include "ibis/CircuitWriter.h"
 #include "ibis/LinkageWriter.h"
 #include "model/NodeSet.h"

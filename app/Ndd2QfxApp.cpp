@@ -10,14 +10,10 @@
 #include "app/LogLoader.h"
 #include "app/TerminalProgress.h"
 #include "app/TranslationDriver.h"
-<<<<<<< HEAD
 #include "base/ParentPipe.h"
-#include "base/Platform.h"
-=======
 #include "base/Platform.h"
 #include "base/ScopedClassicLocale.h"
 #include "model/BatchHost.h"
->>>>>>> main
 #include "model/ReportMessage.h"
 #include "model/TraceStep.h"
 #include "model/TranslationOptions.h"

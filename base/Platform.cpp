@@ -1,13 +1,10 @@
 #include "base/Platform.h"
 
-<<<<<<< HEAD
 #include <pthread.h>
-=======
-#include "base/ScopedClassicLocale.h"
-
->>>>>>> main
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "base/ScopedClassicLocale.h"
 
 #include <clocale>
 #include <cstdio>
@@ -105,12 +102,6 @@ std::string FormatTime(const char* format, std::time_t when) {
     return std::string(buf, n);
 }
 
-<<<<<<< HEAD
-void UseClassicNumericLocale() {
-    std::setlocale(LC_NUMERIC, "C");
-    std::setlocale(LC_TIME, "C");
-}
-
 const char* ErrorText(int error) {
     return std::strerror(error);
 }
@@ -134,6 +125,4 @@ std::string FolderWithSeparator(const std::string& path) {
     return sep == std::string::npos ? std::string() : path.substr(0, sep + 1);
 }
 
-=======
->>>>>>> main
 }  // namespace base
