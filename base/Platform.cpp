@@ -4,13 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "base/ScopedClassicLocale.h"
+
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <vector>
-
-#include "base/ScopedClassicLocale.h"
 
 namespace base {
 

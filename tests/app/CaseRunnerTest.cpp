@@ -101,8 +101,12 @@ class CaseRun : public ::testing::TestWithParam<std::string> {
         }
     }
     void CheckResults(const std::string& out, const std::string& err) const {
-        if (fs::exists(from_ / "stdout")) EXPECT_EQ(out, Expand(CaseFile("stdout")));
-        if (fs::exists(from_ / "stderr")) EXPECT_EQ(err, Expand(CaseFile("stderr")));
+        if (fs::exists(from_ / "stdout")) {
+            EXPECT_EQ(out, Expand(CaseFile("stdout")));
+        }
+        if (fs::exists(from_ / "stderr")) {
+            EXPECT_EQ(err, Expand(CaseFile("stderr")));
+        }
         std::istringstream absent(CaseFile("absent"));
         for (std::string name; absent >> name;)
             EXPECT_FALSE(fs::exists(run_ + "/" + name)) << name << " should not exist";
@@ -122,12 +126,16 @@ class CaseRun : public ::testing::TestWithParam<std::string> {
                 }
                 const std::string got = ReadFile(actual);
                 const std::string want = Expand(ReadFile(e.path().string()));
-                if (kind == "out") EXPECT_EQ(got, want) << rel;
-                if (kind == "head") EXPECT_EQ(got.substr(0, want.size()), want) << rel;
-                if (kind == "tail")
+                if (kind == "out") {
+                    EXPECT_EQ(got, want) << rel;
+                } else if (kind == "head") {
+                    EXPECT_EQ(got.substr(0, want.size()), want) << rel;
+                } else if (kind == "tail") {
                     EXPECT_EQ(got.substr(got.size() - std::min(got.size(), want.size())), want)
                         << rel;
-                if (kind == "part") ExpectParts(got, want, rel);
+                } else {
+                    ExpectParts(got, want, rel);
+                }
             }
         }
     }
