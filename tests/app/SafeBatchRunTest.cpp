@@ -85,7 +85,8 @@ TEST(SafeBatchRun, EveryHelpFormPrintsTheUsage) {
     for (const char* form : {"-h", "-HELP", "--help", "/?"}) {
         ScratchDir dir;
         EXPECT_EQ(RunShell(dir.Path(), std::string("$P a.ndd ") + form + " > usage.txt"), 0);
-        EXPECT_EQ(ReadFile(dir.File("usage.txt")).substr(0, 62),
+        const std::string usage = ReadFile(dir.File("usage.txt"));
+        EXPECT_EQ(usage.substr(0, usage.find('\n') + 1),
                   "Usage: ndd2qfx [options] board.ndd [board.qfx [gap-percent]]\n")
             << form;
         EXPECT_FALSE(std::ifstream(dir.File("a.qfx")).good());

@@ -22,9 +22,13 @@ cp "$work/example/board.qfx" "$work/decks/example.board.qfx"
 
 # Warnings that the output as specified makes; anything else is a fault.
 allowed='\[(layer-name-repeated|non-finite-number|patch-without-shapes|pad-layer-not-in-stack|mirrored-padstack-without-pads|via-node-net|linkage-case|linkage-block-affix)\]$'
+# Tests whose "deck" is not a finished translation on purpose: one cut off by a file-size
+# limit, one that is the input board itself under a .qfx name (the run refuses to write it).
+broken_on_purpose='^SafeBatchRun\.(AFullDiskFailsTheTranslation|OutputThatIsTheInputUnderAnotherNameIsRefused)\.'
 decks=0 bad=0 empty=0
 for deck in "$work/decks"/*.qfx; do
     [ -e "$deck" ] || continue
+    basename "$deck" | grep -qE "$broken_on_purpose" && continue
     # An empty file is what a translation leaves that stopped before its first line (the
     # tests that make one expect it); qfxview calls it "the deck is empty", rightly.
     if [ ! -s "$deck" ]; then
