@@ -13,12 +13,18 @@ namespace {
 // A pause this long is kept in the script, where a person can shorten or drop it.
 constexpr int kLongPauseMs = 3000;
 
+// Script lines stay single lines, whatever a title holds.
+QString OneLine(const QString& text) {
+    QString out = text;
+    return out.replace(QLatin1Char('\n'), QStringLiteral("\\n"))
+        .replace(QLatin1Char('\r'), QStringLiteral("\\r"));
+}
+
 QString Quoted(const QString& text) {
     QString out = text;
     out.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
     out.replace(QLatin1Char('"'), QStringLiteral("\\\""));
-    out.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
-    return QLatin1Char('"') + out + QLatin1Char('"');
+    return QLatin1Char('"') + OneLine(out) + QLatin1Char('"');
 }
 
 QString LevelText(const WidgetLevel& level, bool top) {
@@ -237,7 +243,7 @@ QString ScriptText(const Session& session, bool fullLog) {
     for (const ScriptStep& step : GroupSteps(session, fullLog)) {
         if (!step.inScript) continue;
         if (first || step.window.compare(window, Qt::CaseInsensitive) != 0)
-            text += QString::asprintf("\nWidget: %s\n", qUtf8Printable(step.window));
+            text += QString::asprintf("\nWidget: %s\n", qUtf8Printable(OneLine(step.window)));
         first = false;
         window = step.window;
         text += step.core;

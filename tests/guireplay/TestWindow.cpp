@@ -1,0 +1,64 @@
+#include "TestWindow.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+template <typename W>
+W* Named(W* widget, const char* name) {
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+}  // namespace
+
+TestWindow::TestWindow(TestWindowVariant variant) {
+    setObjectName("testWindow");
+    setWindowTitle("Replay Test");
+    auto layout = new QVBoxLayout(this);
+    nameEdit = Named(new QLineEdit, "nameEdit");
+    layout->addWidget(nameEdit);
+    auto box = Named(new QGroupBox("Options"), "optionsBox");
+    auto boxLayout = new QVBoxLayout(box);
+    const char* optionText =
+        variant == TestWindowVariant::RenamedOption ? "Keep voids" : "Keep vias";
+    boxLayout->addWidget(Named(new QCheckBox(optionText), "keepCheck"));
+    auto combo = Named(new QComboBox, "unitCombo");
+    combo->addItems({"mm", "mil"});
+    boxLayout->addWidget(combo);
+    layout->addWidget(box);
+    nets = Named(new QListWidget, "netList");
+    for (const char* net : {"GND", "VCC", "CLK"}) {
+        auto item = new QListWidgetItem(net, nets);
+        item->setCheckState(Qt::Unchecked);
+    }
+    nets->item(2)->setFlags(nets->item(2)->flags() & ~Qt::ItemIsEnabled);
+    layout->addWidget(nets);
+    auto tabs = Named(new QTabWidget, "pages");
+    tabs->addTab(Named(new QLabel("first page"), "firstPage"), "General");
+    tabs->addTab(Named(new QLabel("second page"), "secondPage"), "Colours");
+    tabs->setTabEnabled(1, false);
+    layout->addWidget(tabs);
+    result = Named(new QLabel("nothing yet"), "resultLabel");
+    layout->addWidget(result);
+    if (variant != TestWindowVariant::NoApplyButton) {
+        auto apply = Named(new QPushButton("Apply"), "applyButton");
+        connect(apply, &QPushButton::clicked, this, &TestWindow::Apply);
+        layout->addWidget(apply);
+    }
+}
+
+void TestWindow::Apply() {
+    QStringList ticked;
+    for (int i = 0; i < nets->count(); ++i)
+        if (nets->item(i)->checkState() == Qt::Checked) ticked << nets->item(i)->text();
+    result->setText(nameEdit->text() + ": " + ticked.join(','));
+}
