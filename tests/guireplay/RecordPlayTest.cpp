@@ -1,0 +1,154 @@
+// A session recorded on the test window and played back on it, on a changed copy of it and on
+// one that lost a button.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest/QTest>
+
+#include "ReplayTestSupport.h"
+#include "TestWindow.h"
+#include "guireplay/EventPlayer.h"
+#include "guireplay/EventRecorder.h"
+#include "guireplay/QEventRecordAndPlay.h"
+
+using namespace guireplay;
+
+namespace {
+
+// Positions depend on the fonts of the machine; the tests compare everything else.
+QString WithoutPositions(QString text) {
+    return text.replace(QRegularExpression(QStringLiteral("\\(\\d+,\\d+\\)")), "(x,y)");
+}
+
+QStringList WithoutPositions(QStringList entries) {
+    for (QString& e : entries) e = WithoutPositions(e);
+    return entries;
+}
+
+class RecordPlay : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(m_dir.isValid());
+        Record();
+    }
+
+    QString Base() const { return m_dir.filePath("session"); }
+
+    // Types a name, ticks an option and a net, applies, and takes a check point.
+    void Record() {
+        ReplaySettings settings;
+        settings.recFixPath = Base();
+        QEventRecordAndPlay recorder(settings);
+        TestWindow window;
+        window.show();
+        recorder.Begin();
+        QTest::mouseClick(window.nameEdit, Qt::LeftButton);
+        QTest::keyClicks(window.nameEdit, "top");
+        QTest::mouseClick(window.findChild<QCheckBox*>("keepCheck"), Qt::LeftButton);
+        const QRect gnd = window.nets->visualItemRect(window.nets->item(0));
+        QTest::mouseClick(window.nets->viewport(), Qt::LeftButton, {}, gnd.center());
+        QTest::keyClick(window.nets, Qt::Key_Space);
+        QTest::mouseClick(window.findChild<QWidget*>("applyButton"), Qt::LeftButton);
+        ASSERT_EQ(window.result->text(), "top: GND");
+        recorder.Recorder()->TakeCheckPoint(&window);
+        recorder.End();
+    }
+
+    QStringList Play(TestWindowVariant variant, int stepTimeoutMs) {
+        TestWindow window(variant);
+        window.show();
+        ReplaySettings settings;
+        settings.playPath = Base() + ".brf";
+        settings.stepTimeoutMs = stepTimeoutMs;
+        EventPlayer player(settings);
+        EXPECT_TRUE(player.Load(settings.playPath));
+        player.Start();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return player.IsDone(); }, 20000));
+        m_result = window.result->text();
+        m_succeeded = player.Succeeded();
+        return WithoutPositions(PlayLogEntries(Base() + ".playlog"));
+    }
+
+    QTemporaryDir m_dir;
+    QString m_result;
+    bool m_succeeded = false;
+};
+
+const char* const kPath = "[#testWindow, \"Replay Test\"]";
+
+}  // namespace
+
+TEST_F(RecordPlay, TheSessionIsKeptAsScriptRecordAndCheckPoint) {
+    EXPECT_EQ(
+        WithoutPositions(ReadText(Base() + ".brf")).section('\n', 9).toStdString(),
+        QStringLiteral(
+            "Widget: Replay Test\n"
+            "Event: MouseClick %1 -> [#nameEdit] (x,y)\n"
+            "Event: KeyInputs \"top\" %1 -> [#nameEdit]\n"
+            "Event: MouseClick %1 -> [#optionsBox] -> [#keepCheck] (x,y)\n"
+            "Event: MouseClick %1 -> [#netList] -> [#qt_scrollarea_viewport] {\"GND\"} (x,y)\n"
+            "Event: KeyInputs \" \" %1 -> [#netList]\n"
+            "Event: MouseClick %1 -> [#applyButton] (x,y)\n"
+            "CheckPoint: KeyInputs \"{Ctrl+Shift+F12}\" %1\n")
+            .arg(kPath)
+            .toStdString());
+    EXPECT_TRUE(QFile::exists(Base() + ".xml"));
+    EXPECT_TRUE(ReadText(m_dir.filePath("CheckPointFiles/CheckPoint1.ckp"))
+                    .contains("QLabel#resultLabel: \"top: GND\"\n"));
+    EXPECT_TRUE(QFile::exists(m_dir.filePath("CheckPointFiles/CheckPoint1.png")));
+    QStringList sessionLog = ReadText(m_dir.filePath("GUIReplay_All.log")).split('\n');
+    for (QString& line : sessionLog) line.remove(QRegularExpression("^\\d{8}_\\d{6}:"));
+    EXPECT_EQ(sessionLog,
+              QStringList({"Recording started. #Tool Version:guireplay_tests",
+                           "Recording path:" + Base() + ".", "Recording stopped.", ""}));
+}
+
+TEST_F(RecordPlay, PlayingRepeatsTheSessionAndItsCheckPointPasses) {
+    const QStringList log = Play(TestWindowVariant::Normal, 2000);
+    ASSERT_GE(log.size(), 3);
+    EXPECT_EQ(log.first(), "Play Started");
+    EXPECT_EQ(log[log.size() - 2].toStdString(),
+              QStringLiteral("Playing CheckPoint: KeyInputs \"{Ctrl+Shift+F12}\" %1\n"
+                             "\tVerifying: Passed for CheckPoint1.")
+                  .arg(kPath)
+                  .toStdString());
+    EXPECT_EQ(log.last(), "Play Ended");
+    EXPECT_EQ(m_result, "top: GND");
+    EXPECT_TRUE(m_succeeded);
+}
+
+TEST_F(RecordPlay, AChangedControlTextFailsTheCheckPoint) {
+    const QStringList log = Play(TestWindowVariant::RenamedOption, 300);
+    ASSERT_GE(log.size(), 2);
+    const QString dir = m_dir.filePath("CheckPointFiles/");
+    EXPECT_EQ(log[log.size() - 2].toStdString(),
+              QStringLiteral("Playing CheckPoint: KeyInputs \"{Ctrl+Shift+F12}\" %1\n"
+                             "\tVerifying: Failed for CheckPoint1, compare the following two files "
+                             "for details:\n\t[Golden]%2CheckPoint1.ckp\n"
+                             "\t[TestResult]%2CheckPoint1_TestResult.ckp")
+                  .arg(kPath, dir)
+                  .toStdString());
+    EXPECT_EQ(log.last(), "Play Ended");
+    EXPECT_FALSE(m_succeeded);
+    EXPECT_TRUE(ReadText(dir + "CheckPoint1_TestResult.ckp").contains("\"Keep voids\""));
+}
+
+TEST_F(RecordPlay, AWidgetThatIsGoneCannotBeLocated) {
+    const QStringList log = Play(TestWindowVariant::NoApplyButton, 300);
+    ASSERT_GE(log.size(), 2);
+    EXPECT_EQ(log[log.size() - 2].toStdString(),
+              QStringLiteral("Playing Event: MouseClick %1 -> [#applyButton] (x,y)\n"
+                             "\tError: Cannot locate QPushButton[\"applyButton\"] target widget.\n"
+                             "\tThe top level widget is QDialog[\"testWindow\"]. The last found "
+                             "level widget is QDialog[\"testWindow\"].\n"
+                             "\tCurrunt active widget is QDialog[\"testWindow\"].")
+                  .arg(kPath)
+                  .toStdString());
+    EXPECT_EQ(log.last(), "Play Stopped");
+    EXPECT_FALSE(m_succeeded);
+}
