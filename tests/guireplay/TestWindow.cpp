@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -50,10 +51,20 @@ TestWindow::TestWindow(TestWindowVariant variant) {
     result = Named(new QLabel("nothing yet"), "resultLabel");
     layout->addWidget(result);
     if (variant != TestWindowVariant::NoApplyButton) {
-        auto apply = Named(new QPushButton("Apply"), "applyButton");
+        const char* name =
+            variant == TestWindowVariant::RenamedApplyButton ? "applyNowButton" : "applyButton";
+        auto apply = Named(new QPushButton("Apply"), name);
         connect(apply, &QPushButton::clicked, this, &TestWindow::Apply);
         layout->addWidget(apply);
     }
+    auto confirm = Named(new QPushButton("Confirm"), "confirmButton");
+    connect(confirm, &QPushButton::clicked, this, &TestWindow::Confirm);
+    layout->addWidget(confirm);
+}
+
+void TestWindow::Confirm() {
+    if (QMessageBox::question(this, "Keep Result", "Keep it?") == QMessageBox::Yes)
+        result->setText(result->text() + " (kept)");
 }
 
 void TestWindow::Apply() {

@@ -1,6 +1,6 @@
 #pragma once
 // A small dialog to record and play on: a name, an option, a list of nets to tick, a choice,
-// tabs, and buttons that change what the dialog shows. Variants change one control, as a
+// tabs, and buttons that change what the dialog shows, one of them after a modal question. Variants change one control, as a
 // later version of a program would.
 #include <QDialog>
 
@@ -8,7 +8,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 
-enum class TestWindowVariant { Normal, RenamedOption, NoApplyButton };
+enum class TestWindowVariant { Normal, RenamedOption, NoApplyButton, RenamedApplyButton };
 
 class TestWindow : public QDialog {
   public:
@@ -19,4 +19,5 @@ class TestWindow : public QDialog {
 
   private:
     void Apply();
+    void Confirm();
 };

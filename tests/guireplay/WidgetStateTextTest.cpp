@@ -40,7 +40,8 @@ TEST(CheckPointText, ListsEachControlsStateInItsForm) {
               "--------\n"
               "QLabel#secondPage: \"second page\"\n"
               "QLabel#resultLabel: \"nothing yet\"\n"
-              "QPushButton#applyButton: \"Apply\", Enabled\n");
+              "QPushButton#applyButton: \"Apply\", Enabled\n"
+              "QPushButton#confirmButton: \"Confirm\", Enabled\n");
 }
 
 TEST(CheckPointText, HiddenAndCustomControlsFollowTheirProperties) {
@@ -54,5 +55,6 @@ TEST(CheckPointText, HiddenAndCustomControlsFollowTheirProperties) {
               "QDialog#testWindow: \"Replay Test\", Enabled\n"
               "QLineEdit#nameEdit: \"\", Disabled\n"
               "QLabel#resultLabel: \"own words\", Enabled\n"
-              "QPushButton#applyButton: \"Apply\", Enabled\n");
+              "QPushButton#applyButton: \"Apply\", Enabled\n"
+              "QPushButton#confirmButton: \"Confirm\", Enabled\n");
 }
