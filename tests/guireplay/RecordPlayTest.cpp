@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -68,12 +69,13 @@ class RecordPlay : public ::testing::Test {
         recorder.End();
     }
 
-    QStringList Play(TestWindowVariant variant, int stepTimeoutMs) {
+    QStringList Play(TestWindowVariant variant, int stepTimeoutMs, bool upgrade = false) {
         TestWindow window(variant);
         window.show();
         ReplaySettings settings;
         settings.playPath = Base() + ".brf";
         settings.stepTimeoutMs = stepTimeoutMs;
+        settings.upgrade = upgrade;
         EventPlayer player(settings);
         EXPECT_TRUE(player.Load(settings.playPath));
         player.Start();
@@ -150,4 +152,28 @@ TEST_F(RecordPlay, AWidgetThatIsGoneCannotBeLocated) {
                   .toStdString());
     EXPECT_EQ(log.last(), "Play Stopped");
     EXPECT_FALSE(m_succeeded);
+}
+
+TEST_F(RecordPlay, ALocationFileFollowsARenamedButtonAndTheScriptIsUpgraded) {
+    WriteText(Base() + ".loc",
+              "[GUIOld]\nclassname=QPushButton\nobjectname=applyButton\ntitle=Apply\n"
+              "comparetitle=true\n[GUINew]\nclassname=QPushButton\nobjectname=applyNowButton\n"
+              "title=Apply\n");
+    // The check point still tells the button's old name from its new one.
+    const QStringList log = Play(TestWindowVariant::RenamedApplyButton, 300, true);
+    EXPECT_EQ(log.filter("Error").size(), 0);
+    EXPECT_EQ(log.filter("Verifying: Failed for CheckPoint1").size(), 1);
+    EXPECT_EQ(log.last(), "Play Ended");
+    EXPECT_EQ(m_result, "top: GND (kept)");
+    EXPECT_TRUE(QFile::exists(Base() + ".loc.used"));
+    EXPECT_FALSE(QFile::exists(Base() + ".loc"));
+    // The script now names the button as it is; the old one is kept.
+    const QStringList backups = QDir(m_dir.path()).entryList({"session_*.bak"});
+    ASSERT_EQ(backups.size(), 1);
+    EXPECT_TRUE(ReadText(m_dir.filePath(backups[0])).contains("[#applyButton]"));
+    const QString upgraded = ReadText(Base() + ".brf");
+    EXPECT_TRUE(upgraded.contains("[#applyNowButton]"));
+    EXPECT_FALSE(upgraded.contains("[#applyButton]"));
+    EXPECT_EQ(Play(TestWindowVariant::RenamedApplyButton, 300).filter("Error").size(), 0);
+    EXPECT_EQ(m_result, "top: GND (kept)");
 }
