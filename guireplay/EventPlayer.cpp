@@ -279,6 +279,8 @@ void EventPlayer::RunEvents(QWidget* target, QString messages) {
     m_sendFronts.pop_back();
     if (receiver && (controls.watch || controls.watchWindow))
         WriteWatchPoint(receiver, controls.watchWindow);
+    // The last step may end the program; the play has ended with it.
+    if (m_next >= m_loaded.steps.size()) Finish(true);
 }
 
 void EventPlayer::WriteWatchPoint(QWidget* target, bool window) {

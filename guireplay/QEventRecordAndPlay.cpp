@@ -1,9 +1,13 @@
 #include "guireplay/QEventRecordAndPlay.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
+#include <QWidget>
 
 #include "guireplay/EventPlayer.h"
 #include "guireplay/EventRecorder.h"
+
+#include <QTimer>
 
 namespace guireplay {
 
@@ -30,7 +34,26 @@ void QEventRecordAndPlay::Begin() {
         QCoreApplication::instance()->installEventFilter(this);
         m_recorder->Launch();
     }
-    if (m_player && m_player->Load(m_settings.playPath)) m_player->Start();
+    if (!m_player) return;
+    connect(m_player.get(), &EventPlayer::finished, this, [this] {
+        if (!m_player->Succeeded()) CloseWindows();
+    });
+    if (m_player->Load(m_settings.playPath)) m_player->Start();
+}
+
+// A play that was broken off leaves no window waiting for a person: modal loops are ended
+// from the innermost out, then the other windows are closed, so that the program ends.
+void QEventRecordAndPlay::CloseWindows() {
+    QTimer::singleShot(0, [] {
+        if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+        while (QWidget* modal = QApplication::activeModalWidget()) {
+            auto dialog = qobject_cast<QDialog*>(modal);
+            if (!dialog || !dialog->isVisible()) break;
+            dialog->reject();
+        }
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->isVisible()) w->close();
+    });
 }
 
 void QEventRecordAndPlay::End() {

@@ -36,6 +36,8 @@ class QEventRecordAndPlay : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    static void CloseWindows();
+
     ReplaySettings m_settings;
     std::unique_ptr<EventRecorder> m_recorder;
     std::unique_ptr<EventPlayer> m_player;

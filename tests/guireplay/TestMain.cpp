@@ -5,11 +5,7 @@
 #include <QApplication>
 #include <cstdlib>
 
-// Qt 5's offscreen platform and fontconfig leave their singletons behind at exit.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libqoffscreen.so\nleak:libQt5Gui.so\nleak:libQt5Core.so\nleak:libQt5Widgets.so\n"
-           "leak:libfontconfig.so\n";
-}
+#include "LeakSuppressions.h"
 
 int main(int argc, char** argv) {
     if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);

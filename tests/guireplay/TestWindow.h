@@ -1,7 +1,7 @@
 #pragma once
 // A small dialog to record and play on: a name, an option, a list of nets to tick, a choice,
-// tabs, and buttons that change what the dialog shows, one of them after a modal question. Variants change one control, as a
-// later version of a program would.
+// tabs, and buttons that change what the dialog shows, one of them after a modal question. Variants
+// change one control, as a later version of a program would.
 #include <QDialog>
 
 class QLabel;

@@ -1,0 +1,52 @@
+# Plays one recorded session of a program and checks its play log.
+#   cmake -DPROGRAM=<exe> -DSESSION=<folder> -DWORK=<folder> -DSOURCE=<source tree> -P PlaySession.cmake
+# The session folder holds session.brf, session.xml and CheckPointFiles/, and may hold:
+#   args.txt      the program's arguments; @SOURCE@ stands for the source tree
+#   expected.txt  lines the play log must hold (time stamps left out); without it the play must
+#                 end with "Play Ended", every check point passing and no error.
+# The folder is copied to WORK, which is the program's working folder, so that nothing of the
+# play is written into the source tree.
+file(REMOVE_RECURSE ${WORK})
+file(COPY ${SESSION}/ DESTINATION ${WORK})
+set(args "")
+if(EXISTS ${WORK}/args.txt)
+  file(READ ${WORK}/args.txt args)
+  string(REPLACE "@SOURCE@" "${SOURCE}" args "${args}")
+  separate_arguments(args UNIX_COMMAND "${args}")
+endif()
+set(ENV{LUSHL_GUIREPLAY_PLAY} ${WORK}/session.brf)
+set(ENV{QT_QPA_PLATFORM} offscreen)
+execute_process(COMMAND ${PROGRAM} ${args} WORKING_DIRECTORY ${WORK} TIMEOUT 600
+                RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+if(NOT EXISTS ${WORK}/session.playlog)
+  message(FATAL_ERROR "No play log (status ${status}):\n${out}\n${err}")
+endif()
+file(READ ${WORK}/session.playlog log)
+string(REGEX REPLACE "\\[[0-9][0-9/:-]*\\]--" "" log "${log}")
+set(failures "")
+if(EXISTS ${WORK}/expected.txt)
+  file(STRINGS ${WORK}/expected.txt expected)
+  foreach(line IN LISTS expected)
+    string(FIND "${log}" "${line}" at)
+    if(at EQUAL -1)
+      string(APPEND failures "missing: ${line}\n")
+    endif()
+  endforeach()
+else()
+  string(FIND "${log}" "\nPlay Ended\n" ended)
+  if(ended EQUAL -1)
+    string(APPEND failures "the play did not end\n")
+  endif()
+  foreach(word "Verifying: Failed" "Error:")
+    string(FIND "${log}" "${word}" at)
+    if(NOT at EQUAL -1)
+      string(APPEND failures "the log holds \"${word}\"\n")
+    endif()
+  endforeach()
+endif()
+if(NOT status EQUAL 0)
+  string(APPEND failures "the program ended with status ${status}\n")
+endif()
+if(failures)
+  message(FATAL_ERROR "${failures}play log:\n${log}")
+endif()
