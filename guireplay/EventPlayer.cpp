@@ -33,6 +33,32 @@ QWidget* Front() {
     return QApplication::activeModalWidget();
 }
 
+// Typing into an input that no longer starts from the recorded text may give another result.
+QString InitialTextWarning(const Step& step, const QWidget* target) {
+    const QString key = QStringLiteral("InitialText=");
+    const int at = step.extraInfo.indexOf(key);
+    const QVariant text = target->property("text");
+    if (at < 0 || !text.isValid()) return QString();
+    const QString initial = step.extraInfo.mid(at + key.size()).section(QLatin1Char('\n'), 0, 0);
+    if (text.toString() == initial) return QString();
+    return QStringLiteral(
+               "\n\tWarning: The initial text of the input widget is changed from \"%1\" to "
+               "\"%2\".")
+        .arg(initial, text.toString());
+}
+
+// The step with the location of the widget it was played on, for an upgraded script.
+Step AsFound(const Step& step, QWidget* target) {
+    Step played = step;
+    const QPoint pos = step.location.ptRefToTop.isNull()
+                           ? target->rect().center()
+                           : target->mapFrom(target->window(), step.location.ptRefToTop);
+    played.location = LocationOf(target, pos);
+    played.location.topIsMain = step.location.topIsMain;
+    played.location.extraIndex = step.location.extraIndex;
+    return played;
+}
+
 void CloseWindow(QWidget* window) {
     if (auto dialog = qobject_cast<QDialog*>(window)) {
         dialog->reject();
@@ -128,13 +154,15 @@ bool EventPlayer::BeginStep() {
     return true;
 }
 
+qint64 EventPlayer::StepTimeoutMs() const {
+    const StepControls& c = m_loaded.controls[m_next];
+    return c.timeoutSeconds > 0 ? qint64(c.timeoutSeconds * 1000.0) : m_settings.stepTimeoutMs;
+}
+
 bool EventPlayer::FindTarget(Target& target) {
     const ScriptStep& step = m_loaded.steps[m_next];
     const Step& first = m_loaded.session.steps[step.first];
-    const StepControls& c = m_loaded.controls[m_next];
-    const qint64 timeout =
-        c.timeoutSeconds > 0 ? qint64(c.timeoutSeconds * 1000.0) : m_settings.stepTimeoutMs;
-    const bool late = m_stepClock.elapsed() >= m_waitMs + timeout;
+    const bool late = m_stepClock.elapsed() >= m_waitMs + StepTimeoutMs();
     LocateResult found = Locate(first.location);
     QWidget* w = found.widget;
     if (!w) {
@@ -202,9 +230,8 @@ void EventPlayer::RunCheckPoint(QWidget* target) {
         QFileInfo(m_loaded.basePath).dir().filePath(QStringLiteral("CheckPointFiles"));
     QWidget* window = target->window();
     const Verdict v = VerifyCheckPoint(dir, name, WidgetStateText(window), m_settings.checkNoOrder);
-    const qint64 timeout = m_settings.stepTimeoutMs;
     // A window may still be settling; a failing check is tried again until the step's time.
-    if (v.loaded && !v.passed && m_stepClock.elapsed() < m_waitMs + timeout) {
+    if (v.loaded && !v.passed && m_stepClock.elapsed() < m_waitMs + StepTimeoutMs()) {
         Schedule(kPollMs);
         return;
     }
@@ -244,25 +271,10 @@ void EventPlayer::RunEvents(QWidget* target, QString messages) {
         if (!messages.contains(spot.messages)) messages += spot.messages;
         ok = ok && spot.ok;
         spots.push_back(spot.pos);
-        const QString initial =
-            s.extraInfo.section(QStringLiteral("InitialText="), 1).section(QLatin1Char('\n'), 0, 0);
-        auto* edit = target->property("text").isValid() ? target : nullptr;
-        if (s.extraInfo.contains(QStringLiteral("InitialText=")) && edit &&
-            edit->property("text").toString() != initial)
-            messages += QStringLiteral(
-                            "\n\tWarning: The initial text of the input widget is changed from "
-                            "\"%1\" to \"%2\".")
-                            .arg(initial, edit->property("text").toString());
+        messages += InitialTextWarning(s, target);
         if (s.event.type == QEvent::InputMethod)
             messages += QStringLiteral("\n\tError: InputMethod is not yet fully supported.");
-        Step played = s;
-        played.location =
-            LocationOf(target, s.location.ptRefToTop.isNull()
-                                   ? target->rect().center()
-                                   : target->mapFrom(target->window(), s.location.ptRefToTop));
-        played.location.topIsMain = s.location.topIsMain;
-        played.location.extraIndex = s.location.extraIndex;
-        m_played[step.first + i] = played;
+        m_played[step.first + i] = AsFound(s, target);
     }
     if (messages.contains(QLatin1String("\n\tError:"))) ++m_failures;
     m_log.Write(m_entry + messages);

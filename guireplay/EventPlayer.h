@@ -47,6 +47,7 @@ class EventPlayer : public QObject {
     };
 
     bool MayRun() const;
+    qint64 StepTimeoutMs() const;
     bool BeginStep();
     bool FindTarget(Target& target);
     void CloseUnexpected(QWidget* target, QString& messages);
