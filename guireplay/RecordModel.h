@@ -19,10 +19,10 @@ struct SystemInfo {
     int cpuCount = 0;
     quint64 physicalMemory = 0;
     QPoint dpi;
-    QSize resolution;
+    QSize resolution{0, 0};
     QString envVarList;
     QString toolVersion;
-    QSize mainWindowSize;
+    QSize mainWindowSize{0, 0};
 };
 
 // One level of a widget's path from its top window down.
