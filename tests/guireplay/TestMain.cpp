@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <cstdlib>
 
-#include "LeakSuppressions.h"
+#include "ui/ToolkitLeaks.h"
 
 int main(int argc, char** argv) {
     if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);

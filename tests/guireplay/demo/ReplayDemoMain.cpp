@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <cstdio>
 
-#include "../LeakSuppressions.h"
 #include "../TestWindow.h"
 #include "guireplay/ReplayStart.h"
+#include "ui/ToolkitLeaks.h"
 
 int main(int argc, char** argv) {
     guireplay::ArmFromEnvironment();
