@@ -20,6 +20,7 @@
 #include "guireplay/WidgetLocator.h"
 #include "guireplay/WidgetPath.h"
 #include "guireplay/WidgetStateText.h"
+#include "ui/CmdTarget.h"
 
 namespace guireplay {
 
@@ -283,16 +284,34 @@ void EventPlayer::RunEvents(QWidget* target, QString messages) {
     // The next step is due before the events go out: one of them may open a modal loop.
     Schedule(kStepGapMs);
     m_sendFronts.push_back(Front());
+    ResetLastCommandName();
+    const int stepAfter = m_next;
     for (int i = 0; i < step.count && receiver; ++i) {
         const Step& s = m_loaded.session.steps[step.first + i];
         if (!SendRecordedEvent(receiver, s.event, spots[i], controls.async || s.async))
             m_log.Write(QStringLiteral("Warning: An invalid event is encountered."));
     }
     m_sendFronts.pop_back();
+    // Steps played inside a modal loop of this one have run commands of their own.
+    if (m_next == stepAfter) CompareCommand(step);
     if (receiver && (controls.watch || controls.watchWindow))
         WriteWatchPoint(receiver, controls.watchWindow);
     // The last step may end the program; the play has ended with it.
     if (m_next >= m_loaded.steps.size()) Finish(true);
+}
+
+void EventPlayer::CompareCommand(const ScriptStep& step) {
+    const QString key = QStringLiteral("Command=");
+    QString expected;
+    for (int i = 0; i < step.count; ++i) {
+        const QString& info = m_loaded.session.steps[step.first + i].extraInfo;
+        const int at = info.indexOf(key);
+        if (at >= 0) expected = info.mid(at + key.size()).section(QLatin1Char('\n'), 0, 0);
+    }
+    const QString ran = QString::fromStdString(LastCommandName());
+    if (expected == ran) return;
+    m_log.Write(QStringLiteral("Warning: The step ran the command \"%1\" instead of \"%2\".")
+                    .arg(ran, expected));
 }
 
 void EventPlayer::WriteWatchPoint(QWidget* target, bool window) {

@@ -54,6 +54,8 @@ class EventPlayer : public QObject {
     void RunCheckPoint(QWidget* target);
     void RunEvents(QWidget* target, QString messages);
     void WriteWatchPoint(QWidget* target, bool window);
+    // Warns when the step's events ran another command than they did when recorded.
+    void CompareCommand(const ScriptStep& step);
     void Advance();
     void Schedule(int ms);
     void Finish(bool ended);

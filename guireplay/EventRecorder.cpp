@@ -20,6 +20,7 @@
 #include "guireplay/SystemProbe.h"
 #include "guireplay/WidgetPath.h"
 #include "guireplay/WidgetStateText.h"
+#include "ui/CmdTarget.h"
 
 namespace guireplay {
 
@@ -103,11 +104,13 @@ void EventRecorder::Start() {
                                                qUtf8Printable(ProbeSystem(nullptr).toolVersion)));
     AppendSessionLog(folder, QString::asprintf("Recording path:%s.\n", qUtf8Printable(m_base)));
     m_sinceLast.start();
+    ResetLastCommandName();
     m_recording = true;
 }
 
 bool EventRecorder::Stop() {
     if (!m_recording) return true;
+    NoteCommand();
     m_recording = false;
     QDir().mkpath(QFileInfo(m_base).path());
     bool ok = SaveRecordXml(m_base + QStringLiteral(".xml"), m_session);
@@ -272,7 +275,20 @@ void EventRecorder::Add(QWidget* receiver, Step step, QPoint pos) {
         if (path.isValid()) step.location.extraIndex = path.toString();
     }
     step.delay = int(m_sinceLast.restart());
+    NoteCommand();
     m_session.steps.push_back(step);
+}
+
+// The handler that the steps since the last note ran, kept with the last of them, so that a
+// play can tell whether the same command followed.
+void EventRecorder::NoteCommand() {
+    const std::string name = LastCommandName();
+    if (name.empty() || m_session.steps.isEmpty()) return;
+    ResetLastCommandName();
+    Step& last = m_session.steps.last();
+    if (!last.extraInfo.isEmpty()) last.extraInfo += QLatin1Char('\n');
+    last.extraInfo += QStringLiteral("Command=") + QString::fromStdString(name);
+    last.hasExtraInfo = true;
 }
 
 QString EventRecorder::ExtraInfoFor(QWidget* receiver, const QEvent* event) const {

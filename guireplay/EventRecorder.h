@@ -52,6 +52,7 @@ class EventRecorder {
     RecordedEvent Convert(QEvent* event) const;
     QString ExtraInfoFor(QWidget* receiver, const QEvent* event) const;
     bool WriteCheckPoints() const;
+    void NoteCommand();
 
     ReplaySettings m_settings;
     bool m_recording = false;

@@ -100,7 +100,8 @@ TEST_F(RecordPlay, TheSessionIsKeptAsScriptRecordAndCheckPoint) {
     // The system block of the machine stands in the first nine lines.
     EXPECT_EQ(WithoutPositions(ReadText(Base() + ".brf")).section('\n', 9),
               ReadText(DataPath("test_window_steps.brf")));
-    EXPECT_TRUE(QFile::exists(Base() + ".xml"));
+    // The click on Apply keeps the handler it ran.
+    EXPECT_TRUE(ReadText(Base() + ".xml").contains("<ExtraInfo>Command=OnApply</ExtraInfo>"));
     EXPECT_TRUE(ReadText(m_dir.filePath("CheckPointFiles/CheckPoint1.ckp"))
                     .contains("QLabel#resultLabel: \"top: GND (kept)\"\n"));
     EXPECT_TRUE(QFile::exists(m_dir.filePath("CheckPointFiles/CheckPoint1.png")));
@@ -167,6 +168,8 @@ TEST_F(RecordPlay, ALocationFileFollowsARenamedButtonAndTheScriptIsUpgraded) {
     const QStringList log = Play(TestWindowVariant::RenamedApplyButton, 300, true);
     EXPECT_EQ(log.filter("Error").size(), 0);
     EXPECT_EQ(log.filter("Verifying: Failed for CheckPoint1").size(), 1);
+    EXPECT_EQ(log.filter("command").join('|'),
+              "Warning: The step ran the command \"OnApplyNow\" instead of \"OnApply\".");
     EXPECT_EQ(log.last(), "Play Ended");
     EXPECT_EQ(m_result, "top: GND (kept)");
     EXPECT_TRUE(QFile::exists(Base() + ".loc.used"));

@@ -21,7 +21,15 @@ W* Named(W* widget, const char* name) {
 
 }  // namespace
 
+const CClassFunctionCall* CApplyTarget::GetChainHead() const {
+    static const CHandlerChain chain(CCmdTargetBase::GetChainHead(),
+                                     OnCommand(1, UI_FN(&CApplyTarget::OnApply)),
+                                     OnCommand(2, UI_FN(&CApplyTarget::OnApplyNow)));
+    return chain.Head();
+}
+
 TestWindow::TestWindow(TestWindowVariant variant) {
+    m_commands.apply = [this] { Apply(); };
     setObjectName("testWindow");
     setWindowTitle("Replay Test");
     auto layout = new QVBoxLayout(this);
@@ -54,7 +62,9 @@ TestWindow::TestWindow(TestWindowVariant variant) {
         const char* name =
             variant == TestWindowVariant::RenamedApplyButton ? "applyNowButton" : "applyButton";
         auto apply = Named(new QPushButton("Apply"), name);
-        connect(apply, &QPushButton::clicked, this, &TestWindow::Apply);
+        if (variant == TestWindowVariant::RenamedApplyButton) m_applyId = 2;
+        connect(apply, &QPushButton::clicked, this,
+                [this] { m_commands.OnCmdMsg(m_applyId, 0, nullptr, false); });
         layout->addWidget(apply);
     }
     auto confirm = Named(new QPushButton("Confirm"), "confirmButton");

@@ -3,12 +3,27 @@
 // tabs, and buttons that change what the dialog shows, one of them after a modal question. Variants
 // change one control, as a later version of a program would.
 #include <QDialog>
+#include <functional>
+
+#include "ui/CmdTarget.h"
 
 class QLabel;
 class QLineEdit;
 class QListWidget;
 
 enum class TestWindowVariant { Normal, RenamedOption, NoApplyButton, RenamedApplyButton };
+
+// Routes the Apply button as the program's dialogs route their buttons, so that a recording
+// notes which handler a click ran.
+class CApplyTarget : public CCmdTargetBase {
+  public:
+    const CClassFunctionCall* GetChainHead() const override;
+    std::function<void()> apply;
+
+  private:
+    void OnApply() { apply(); }
+    void OnApplyNow() { apply(); }
+};
 
 class TestWindow : public QDialog {
   public:
@@ -19,5 +34,7 @@ class TestWindow : public QDialog {
 
   private:
     void Apply();
+    CApplyTarget m_commands;
+    unsigned m_applyId = 1;
     void Confirm();
 };
