@@ -133,6 +133,23 @@ TEST_F(PinMappingWriterTest, AFileThatCannotBeReplacedKeepsItsText) {
     EXPECT_EQ(host_.messages.size(), 3u);
 }
 
+// Files without a pin table, with NUL bytes or very long lines lose no byte: all of it is
+// copied in front of the new rows and tables.
+TEST_F(PinMappingWriterTest, FilesThatAreNoIbisFilesLoseNothing) {
+    std::string junk;
+    for (int i = 0; i < 5000; ++i)
+        junk += static_cast<char>((i * 37) % 256 == '\r' ? 0 : (i * 37) % 256);
+    for (const std::string& text : {std::string(), junk, std::string(3000, 'x') + "\n1 A B\n"}) {
+        DialogState state =
+            ReadDialogState(kData + "pinmap/vendor/sn74lvc1g14.txt", dir_.Write("odd.ibs", text));
+        ASSERT_EQ(Save(state), 1);
+        std::string saved = ReadFile(state.component.ibisFile);
+        std::string head = kModifiedIbisMarker + ("\n" + text);
+        EXPECT_EQ(saved.substr(0, head.size()), head);
+        EXPECT_NE(saved.find("[Pin Mapping]", head.size()), std::string::npos);
+    }
+}
+
 TEST(PinMappingTempName, CutsAtTheFirstIbsInAnyCase) {
     EXPECT_EQ(PinMappingTempName("/d/part.ibs"), "/d/part_temp_lumora.ibs");
     EXPECT_EQ(PinMappingTempName("/D/PART.IBS"), "/D/PART_temp_lumora.ibs");
