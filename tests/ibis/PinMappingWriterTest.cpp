@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 #include "RecordingHost.h"
@@ -34,6 +35,7 @@ DialogState ReadDialogState(const std::string& path, const std::string& ibisFile
     for (std::string line; std::getline(lines, line);) {
         std::istringstream words(line);
         std::vector<std::string> w{std::istream_iterator<std::string>(words), {}};
+        if (w.empty()) continue;
         for (std::string& word : w)
             if (word == "-") word.clear();
         if (w[0] == "pins") {
