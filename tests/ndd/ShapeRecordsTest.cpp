@@ -15,11 +15,7 @@ using namespace fixtures;
 
 namespace {
 
-const char kHead[] =
-    "%board_outline\n"
-    "%rectangle 0 0 100 50;\n"
-    "%port \"U1-1\" \"GND\";\n"
-    "%port \"U1-2\" \"VCC\";\n";
+const std::string kHead = testing_support::DataFile("ndd/ShapeRecords/head.ndd");
 
 class ShapeRecords : public ::testing::Test {
   protected:

@@ -12,6 +12,7 @@
 namespace {
 
 using testing_support::CaptureOutput;
+using testing_support::DataFile;
 
 // A stack given as "S:TOP", "D:D1", "P:GND": kind letter, colon, name.
 void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035) {
@@ -69,14 +70,7 @@ TEST_F(ShapeWriterTest, FivePointRectangleIsABoxSixPointsAPolygon) {
     AddShape(0, kPolarityCopper, 0, {{0, 0}, {0, 1}, {2, 1}, {2, 0}, {0, 0}});
     AddShape(0, kPolarityCopper, 1, {{0, 0}, {2, 0}, {2, 1}, {0, 1}, {0, 0.5}, {0, 0}});
     EXPECT_EQ(Shapes(),
-              ".Shape Shape$TOP Color = green\n"
-              "Polygon1::N2+ Color = green   0.000000e+00mm 0.000000e+00mm 2.000000e+00mm "
-              "0.000000e+00mm\n"
-              "+   2.000000e+00mm 1.000000e+00mm 0.000000e+00mm 1.000000e+00mm\n"
-              "+   0.000000e+00mm 5.000000e-01mm 0.000000e+00mm 0.000000e+00mm\n"
-              "Box0::N1+ Color = red 0.000000e+00mm 0.000000e+00mm 2.000000e+00mm 1.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+              DataFile("qfx/ShapeAndLayerWriter/FivePointRectangleIsABoxSixPointsAPolygon.txt"));
     EXPECT_EQ(g_model.g_aLayers[0].hasShapes, 1);
 }
 
@@ -86,25 +80,16 @@ TEST_F(ShapeWriterTest, BoxTakesThePlainNetNameAndTheOtherWinding) {
     g_options.g_strNameAffix = "A_";
     AddShape(2, kPolarityVoid, 0, {{1, 1}, {3, 1}, {3, 4}, {1, 4}, {1, 1}});
     EXPECT_EQ(Shapes(),
-              ".Shape Shape$A_GND Color = green\n"
-              "BoxA_0::N1-  1.000000e+00mm 1.000000e+00mm 2.000000e+00mm 3.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+              DataFile("qfx/ShapeAndLayerWriter/BoxTakesThePlainNetNameAndTheOtherWinding.txt"));
 }
 
 TEST_F(ShapeWriterTest, SevenPointsPrintFourLinesAndCirclesTheirRadius) {
     g_options.g_bAppendNetName = 0;
     AddShape(4, kPolarityCopper, kNoNet, {{0, 0}, {1, 0}, {2, 0}, {2, 1}, {1, 2}, {0, 1}, {0, 0}});
     AddShape(4, kPolarityCopper, 1, {{5, 6}, {0.25, 0.25}}, 0.2, kGeometryCircle);
-    EXPECT_EQ(Shapes(),
-              ".Shape Shape$BOT Color = green\n"
-              "Circle1+ Color = green 5.000000e+00mm 6.000000e+00mm 2.500000e-01mm\n"
-              "Polygon0+    0.000000e+00mm 0.000000e+00mm 1.000000e+00mm 0.000000e+00mm\n"
-              "+   2.000000e+00mm 0.000000e+00mm 2.000000e+00mm 1.000000e+00mm\n"
-              "+   1.000000e+00mm 2.000000e+00mm 0.000000e+00mm 1.000000e+00mm\n"
-              "+   0.000000e+00mm 0.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+    EXPECT_EQ(
+        Shapes(),
+        DataFile("qfx/ShapeAndLayerWriter/SevenPointsPrintFourLinesAndCirclesTheirRadius.txt"));
 }
 
 TEST_F(ShapeWriterTest, SmallVoidsDropUnlessTheRunsFirstShapeIsUndiscardable) {
@@ -152,18 +137,10 @@ class LayerWriterTest : public ::testing::Test {
 
 TEST_F(LayerWriterTest, NoPlanesEndInTwoPseudoPlanesAndEverySignalGetsAPatch) {
     MakeStack({"S:TOP", "D:D1", "S:BOT"});
-    EXPECT_EQ(Layers(),
-              "Signal$TOP Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = blue\n"
-              "Medium$D1 Thickness = 3.500000e-02mm Permittivity = 4.300000e+00\n"
-              "Signal$BOT Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = red\n"
-              "MediumPseudo3 Thickness = 0.01mm Permittivity = 4.0\n"
-              "PlanePseudo4 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n"
-              "MediumPseudo5 Thickness = 0.01mm Permittivity = 4.0\n"
-              "PlanePseudo6 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n"
-              "Patch$TOP\n+ Shape = Shape$TOP Layer = Signal$TOP\n"
-              "Patch$BOT\n+ Shape = Shape$BOT Layer = Signal$BOT\n");
+    EXPECT_EQ(
+        Layers(),
+        DataFile(
+            "qfx/ShapeAndLayerWriter/NoPlanesEndInTwoPseudoPlanesAndEverySignalGetsAPatch.txt"));
 }
 
 TEST_F(LayerWriterTest, OnePlaneWithShapesAndThinOuterDielectrics) {
@@ -174,12 +151,7 @@ TEST_F(LayerWriterTest, OnePlaneWithShapesAndThinOuterDielectrics) {
     g_options.g_bAllowPatches = 0;
     g_options.g_strNameAffix = "X";
     EXPECT_EQ(Layers(),
-              "Signal$XTOP Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = green\n"
-              "Medium$XD1 Thickness = 3.500000e-02mm Permittivity = 4.300000e+00\n"
-              "Plane$XGND Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Shape = "
-              "Shape$XGND Color = magenta\n"
-              "PlanePseudoX5 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n");
+              DataFile("qfx/ShapeAndLayerWriter/OnePlaneWithShapesAndThinOuterDielectrics.txt"));
 }
 
 TEST_F(LayerWriterTest, ColoursFollowTheTableIndexAndPatchesCountAsPlanes) {
