@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "qfxview/draw/ToolkitLeaks.h"
+#include "ui/ToolkitLeaks.h"
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
