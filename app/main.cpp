@@ -2,6 +2,7 @@
 #include "app/ProcessHooks.h"
 #include "base/CrashHandler.h"
 #include "base/KnownLocations.h"
+#include "dialogs/Ndd2QfxDlg.h"
 #include "ui/ToolkitLeaks.h"
 #include "ui/UiShell.h"
 
@@ -13,5 +14,6 @@ int main(int argc, char** argv) {
         IQtResourceMgr* resources = nullptr;
         return RunUiShell(shellArgc, shellArgv, resources, start);
     });
+    SetMainDialogRunner(RunMainDialog);
     return RunProcess(argc, argv);
 }

@@ -3,10 +3,13 @@
 #include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QUrl>
 #include <cstdio>
 #include <cstdlib>
+
+#include "ui/MessageBox.h"
 
 namespace {
 
@@ -18,6 +21,14 @@ std::string ChooseFile(QWidget* parent, const FileRequest& request) {
     dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return dialog.selectedFiles().first().toStdString();
+}
+
+bool SomeoneAnswers() {
+    MessageBoxAnswerer answerer = SetMessageBoxAnswerer(nullptr);
+    bool answered = static_cast<bool>(answerer);
+    SetMessageBoxAnswerer(std::move(answerer));
+    QString platform = QGuiApplication::platformName();
+    return answered || (platform != "offscreen" && platform != "minimal");
 }
 
 }  // namespace
@@ -34,5 +45,6 @@ DialogServices DesktopServices() {
         std::fflush(nullptr);
         std::_Exit(status);
     };
+    services.someoneAnswers = SomeoneAnswers;
     return services;
 }

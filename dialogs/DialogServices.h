@@ -26,6 +26,9 @@ struct DialogServices {
     std::function<bool(const std::string& url)> openUrl;
     // Ends the process at once with status.
     std::function<void(int status)> endProcess;
+    // False when no one can answer a window: a platform with no screen and no answerer of
+    // message boxes in place of the person.
+    std::function<bool()> someoneAnswers;
 };
 
 // The services of the desktop: Qt's file dialogs, QMenu::exec, QDesktopServices.

@@ -1,6 +1,7 @@
 #include "dialogs/Ndd2QfxDlg.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QMenu>
 #include <QProgressBar>
 #include <QShortcut>
@@ -76,6 +77,9 @@ LRESULT CNdd2QfxDlg::OnKickIdle(WPARAM, LPARAM) {
     m_bFirstIdle = false;
     // Both names on the command line: the dialog translates of its own accord.
     if (!g_options.g_strCmdInputFile.empty() && !g_options.g_strCmdOutputFile.empty()) OnOK();
+    // A window that no one can see or answer would wait for ever: it has done what it does by
+    // itself, and ends (a successful translation has ended it already).
+    if (!m_services.someoneAnswers() && IsWindowVisible()) OnCancel();
     return 0;
 }
 
@@ -221,7 +225,8 @@ bool CNdd2QfxDlg::Ask(const std::string& question) {
 }
 
 void CNdd2QfxDlg::RunSettingsStep() {
-    OnProperty();
+    // No one could close the Settings dialog: the run goes on as without a traces file.
+    if (m_services.someoneAnswers()) OnProperty();
 }
 
 void CNdd2QfxDlg::ShowMessage(const std::string& text, int boxType, int) {
