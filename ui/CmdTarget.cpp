@@ -111,7 +111,8 @@ bool CCmdTargetBase::DispatchEntry(const CClassFunctionCall& e, unsigned message
                e.signature != kSigWord32) {
         return false;
     }
-    *args.result = e.Call(*this, args);
+    LRESULT value = e.Call(*this, args);
+    if (e.signature == kSigWordLong) *args.result = value;
     if (e.signature == kSigWord32) DefWindowProc(message, wParam, lParam);
     return true;
 }
