@@ -21,12 +21,12 @@ W* NewControl(QWidget* dialog, const char* symbol, int x, int y, int width, int 
     return control;
 }
 
-// A framing control (group box, line) kept beneath its neighbours, so that it never takes
-// their clicks.
+// A framing control (group box, line): it lets the mouse through to the controls that it
+// encloses, which may lie beneath it.
 template <class W>
 W* NewFrame(QWidget* dialog, const char* symbol, int x, int y, int width, int height) {
     W* frame = NewControl<W>(dialog, symbol, x, y, width, height);
-    frame->lower();
+    frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     return frame;
 }
 

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <memory>
 
+#include <QIcon>
+#include <QList>
 #include <QPixmap>
 
 #include "dialogs/forms/QtDialogForm.h"
@@ -23,4 +25,7 @@ class CQtNdd2QfxResourceMgr {
     const QtResourceEntry* FindResource(int number) const;
     // The picture of the number made into a pixmap; a null pixmap for an unknown number.
     QPixmap LoadPixmap(int number) const;
+    // The picture of the number cut into images `width` pixels wide, left to right (an image
+    // list); empty for an unknown number.
+    QList<QIcon> LoadImageList(int number, int width) const;
 };

@@ -15,6 +15,8 @@ class CqtDialogRes_IDD_SETTINGS : public CQtDialogForm {
     QWidget* plainControl(int id) const override;
 
   private:
+    void retranslateUi(QWidget* dialog);
+
     struct Widgets;
     std::unique_ptr<Widgets> m_ui;
 };

@@ -1,0 +1,14 @@
+// The entry of the dialog tests: one application object on the offscreen platform for all.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "qfxview/draw/ToolkitLeaks.h"
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    // Listing the tests at build time happens without CTest's environment, and without display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    return RUN_ALL_TESTS();
+}
