@@ -35,6 +35,8 @@ constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;
 // Labels that no logic reaches; their object names are numbered IDC_STATIC_0, IDC_STATIC_1...
 constexpr int IDC_STATIC = -1;
+// Control identifiers stay within 1 to this.
+constexpr int kLastControlId = 1199;
 
 // Main window (IDD_Ndd2Qfx_DIALOG).
 constexpr int IDC_EDIT_INPUT = 1000;

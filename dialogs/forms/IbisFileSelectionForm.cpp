@@ -55,7 +55,7 @@ QWidget* CqtDialogRes_IDD_IBIS_FILE_SELECTION::plainControl(int id) const {
     }
 }
 
-CUiListCtrl* CqtDialogRes_IDD_IBIS_FILE_SELECTION::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_IBIS_FILE_SELECTION::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_CTRL_LIST_IBIS_FILE_SELECTION:

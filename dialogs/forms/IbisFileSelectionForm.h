@@ -10,7 +10,7 @@ class CqtDialogRes_IDD_IBIS_FILE_SELECTION : public CQtDialogForm {
     ~CqtDialogRes_IDD_IBIS_FILE_SELECTION() override;
     void setupUi(QWidget* dialog, bool skipScale) override;
     const char* formName() const override { return "dlg_IDD_IBIS_FILE_SELECTION"; }
-    CUiListCtrl* listControl(int id) const override;
+    CUiListCtrl* GetListControl(int id) const override;
 
   protected:
     QWidget* plainControl(int id) const override;

@@ -65,7 +65,7 @@ QWidget* CqtDialogRes_IDD_LINK_PIN_NAMES_TO_CKT_NODES::plainControl(int id) cons
     }
 }
 
-CUiListCtrl* CqtDialogRes_IDD_LINK_PIN_NAMES_TO_CKT_NODES::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_LINK_PIN_NAMES_TO_CKT_NODES::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_LIST_PART_NO:

@@ -85,7 +85,7 @@ QWidget* CqtDialogRes_IDD_LINK_VOLTAGE_TO_PINS_DIALOG::plainControl(int id) cons
     }
 }
 
-CUiListCtrl* CqtDialogRes_IDD_LINK_VOLTAGE_TO_PINS_DIALOG::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_LINK_VOLTAGE_TO_PINS_DIALOG::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_LIST_LINKAGE:

@@ -10,7 +10,7 @@ class CqtDialogRes_IDD_LINK_VOLTAGE_TO_PINS_DIALOG : public CQtDialogForm {
     ~CqtDialogRes_IDD_LINK_VOLTAGE_TO_PINS_DIALOG() override;
     void setupUi(QWidget* dialog, bool skipScale) override;
     const char* formName() const override { return "dlg_IDD_LINK_VOLTAGE_TO_PINS_DIALOG"; }
-    CUiListCtrl* listControl(int id) const override;
+    CUiListCtrl* GetListControl(int id) const override;
 
   protected:
     QWidget* plainControl(int id) const override;

@@ -75,13 +75,25 @@ struct PictureTable {
 
 }  // namespace
 
-std::unique_ptr<CQtDialogForm> CQtNdd2QfxResourceMgr::CreateForm(int dialogId) const {
+std::unique_ptr<IQtForm> CQtNdd2QfxResourceMgr::CreateForm(int templateId) {
+    return CreateDialogForm(templateId);
+}
+
+bool CQtNdd2QfxResourceMgr::FindResource(int number, const void** data, std::size_t* length) {
+    const QtResourceEntry* entry = FindEntry(number);
+    if (!entry) return false;
+    if (data) *data = entry->data;
+    if (length) *length = entry->length;
+    return true;
+}
+
+std::unique_ptr<CQtDialogForm> CQtNdd2QfxResourceMgr::CreateDialogForm(int templateId) const {
     for (const FormEntry& entry : kForms)
-        if (entry.dialogId == dialogId) return entry.make();
+        if (entry.dialogId == templateId) return entry.make();
     return nullptr;
 }
 
-const QtResourceEntry* CQtNdd2QfxResourceMgr::FindResource(int number) const {
+const QtResourceEntry* CQtNdd2QfxResourceMgr::FindEntry(int number) const {
     static const PictureTable table;
     for (const QtResourceEntry& entry : table.entries)
         if (entry.number == number) return &entry;
@@ -90,7 +102,7 @@ const QtResourceEntry* CQtNdd2QfxResourceMgr::FindResource(int number) const {
 
 QPixmap CQtNdd2QfxResourceMgr::LoadPixmap(int number) const {
     QPixmap pixmap;
-    if (const QtResourceEntry* entry = FindResource(number))
+    if (const QtResourceEntry* entry = FindEntry(number))
         pixmap.loadFromData(reinterpret_cast<const uchar*>(entry->data),
                             static_cast<uint>(entry->length), "PNG");
     return pixmap;

@@ -37,7 +37,7 @@ QWidget* CqtDialogRes_IDD_NET_CHOICE::plainControl(int) const {
     return nullptr;
 }
 
-CUiListCtrl* CqtDialogRes_IDD_NET_CHOICE::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_NET_CHOICE::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_NET_LIST:

@@ -10,7 +10,7 @@ class CqtDialogRes_IDD_NET_CHOICE : public CQtDialogForm {
     ~CqtDialogRes_IDD_NET_CHOICE() override;
     void setupUi(QWidget* dialog, bool skipScale) override;
     const char* formName() const override { return "dlg_IDD_NET_CHOICE"; }
-    CUiListCtrl* listControl(int id) const override;
+    CUiListCtrl* GetListControl(int id) const override;
 
   protected:
     QWidget* plainControl(int id) const override;

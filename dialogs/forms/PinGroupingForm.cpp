@@ -128,7 +128,7 @@ QWidget* CqtDialogRes_IDD_DIALOG_PIN_GROUPING::plainControl(int id) const {
     }
 }
 
-CUiListCtrl* CqtDialogRes_IDD_DIALOG_PIN_GROUPING::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_DIALOG_PIN_GROUPING::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_LIST_CTRL_MAKE_GROUPS:

@@ -10,7 +10,7 @@ class CqtDialogRes_IDD_DIALOG_PIN_GROUPING : public CQtDialogForm {
     ~CqtDialogRes_IDD_DIALOG_PIN_GROUPING() override;
     void setupUi(QWidget* dialog, bool skipScale) override;
     const char* formName() const override { return "dlg_IDD_DIALOG_PIN_GROUPING"; }
-    CUiListCtrl* listControl(int id) const override;
+    CUiListCtrl* GetListControl(int id) const override;
 
   protected:
     QWidget* plainControl(int id) const override;

@@ -44,7 +44,7 @@ QWidget* CqtDialogRes_IDD_DIALOG_PIN_SELECTOR::plainControl(int id) const {
     }
 }
 
-CUiListCtrl* CqtDialogRes_IDD_DIALOG_PIN_SELECTOR::listControl(int id) const {
+CUiListCtrl* CqtDialogRes_IDD_DIALOG_PIN_SELECTOR::GetListControl(int id) const {
     if (!m_ui) return nullptr;
     switch (id) {
         case IDC_LIST_CTRL_PIN_MAP:

@@ -3,12 +3,19 @@
 
 #include <QApplication>
 
-#include "qfxview/draw/ToolkitLeaks.h"
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
+#include "ui/QtResourceMgr.h"
+#include "ui/ToolkitLeaks.h"
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     // Listing the tests at build time happens without CTest's environment, and without display.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    return RUN_ALL_TESTS();
+    // The dialogs find their forms as the program's do.
+    CQtNdd2QfxResourceMgr resources;
+    RegisterResourceMgr(&resources);
+    int status = RUN_ALL_TESTS();
+    RegisterResourceMgr(nullptr);
+    return status;
 }

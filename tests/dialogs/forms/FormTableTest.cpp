@@ -44,15 +44,16 @@ QString TextOf(const QWidget* w) {
     return QString();
 }
 
-// The identifier under which the form's lookup finds the widget; 0 for none.
-int IdOf(const CQtDialogForm& form, const QWidget* w) {
-    for (int id = 1; id < 1200; ++id)
-        if (form.control(id) == w) return id;
+// The identifier, among those that the form lists, under which its lookup finds the widget;
+// 0 for none.
+int IdOf(CQtDialogForm& form, const QWidget* w) {
+    for (int id : form.GetControlIds())
+        if (form.GetControl(id) == w) return id;
     return 0;
 }
 
 // The form as the data file describes it.
-QString Describe(int number, const CQtDialogForm& form, const QWidget& dialog) {
+QString Describe(int number, CQtDialogForm& form, const QWidget& dialog) {
     QString out;
     QTextStream s(&out);
     s << "form " << number << ' ' << dialog.objectName() << ' ' << dialog.width() << 'x'
@@ -62,7 +63,7 @@ QString Describe(int number, const CQtDialogForm& form, const QWidget& dialog) {
         s << "  " << name;
         const int id = IdOf(form, w);
         if (id != 0) s << " #" << id;
-        if (id != 0 && form.listControl(id) == w) s << " list";
+        if (id != 0 && form.GetListControl(id) == w) s << " list";
         const QString text = TextOf(w);
         if (!text.isEmpty()) s << " \"" << text << '"';
         if (auto* b = qobject_cast<const QPushButton*>(w); b && b->isDefault()) s << " default";
@@ -78,13 +79,13 @@ TEST(Forms, EachFormBuildsItsNamesTextsAndIdentifiers) {
     ASSERT_EQ(cases.size(), 13);
     CQtNdd2QfxResourceMgr resources;
     for (const FormCase& c : cases) {
-        std::unique_ptr<CQtDialogForm> form = resources.CreateForm(c.number);
+        std::unique_ptr<CQtDialogForm> form = resources.CreateDialogForm(c.number);
         ASSERT_NE(form, nullptr) << c.number;
         QWidget dialog;
         form->setupUi(&dialog, true);
         EXPECT_EQ(Describe(c.number, *form, dialog).toStdString(), c.expected.toStdString());
-        EXPECT_EQ(form->control(9999), nullptr);
-        EXPECT_EQ(form->listControl(1), nullptr);
+        EXPECT_EQ(form->GetControl(9999), nullptr);
+        EXPECT_EQ(form->GetListControl(1), nullptr);
     }
 }
 
@@ -92,11 +93,11 @@ TEST(Forms, DensityScalesTheFormOnBothAxesUnlessSkipped) {
     CQtNdd2QfxResourceMgr resources;
     OverrideFormDpi(144);
     for (bool skip : {false, true}) {
-        std::unique_ptr<CQtDialogForm> form = resources.CreateForm(102);
+        std::unique_ptr<CQtDialogForm> form = resources.CreateDialogForm(102);
         QWidget dialog;
         form->setupUi(&dialog, skip);
         EXPECT_EQ(dialog.size(), skip ? QSize(690, 280) : QSize(1035, 420));
-        EXPECT_EQ(form->control(1000)->geometry(),
+        EXPECT_EQ(form->GetControl(1000)->geometry(),
                   skip ? QRect(145, 34, 360, 24) : QRect(218, 51, 540, 36));
     }
     OverrideFormDpi(0);
@@ -107,7 +108,7 @@ TEST(Forms, ResourceTableHoldsFourPicturesAndNothingElse) {
     for (int number : {100, 128, 138, 139}) EXPECT_FALSE(resources.LoadPixmap(number).isNull());
     EXPECT_EQ(resources.LoadImageList(138, 16).size(), 12);
     for (int number : {0, 101, 102, 137, 140}) {
-        EXPECT_EQ(resources.FindResource(number), nullptr) << number;
+        EXPECT_FALSE(resources.FindResource(number, nullptr, nullptr)) << number;
         EXPECT_TRUE(resources.LoadPixmap(number).isNull());
         EXPECT_TRUE(resources.LoadImageList(number, 16).isEmpty());
     }
