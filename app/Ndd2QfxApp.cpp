@@ -9,6 +9,7 @@
 #include "app/CommandLine.h"
 #include "app/LogLoader.h"
 #include "app/OutputGuard.h"
+#include "app/ProcessHooks.h"
 #include "app/TerminalProgress.h"
 #include "app/TranslationDriver.h"
 #include "app/Usage.h"
@@ -157,6 +158,10 @@ int CNdd2QfxApp::InitInstance() {
         m_bSucceeded = status == TranslateStatus::Done;
     } else {
         TraceStep(true, "UI mode");
+        if (const MainDialogHook& runMainDialog = GetMainDialogRunner()) {
+            runMainDialog();
+            return -1;
+        }
         std::fprintf(stderr,
                      "ndd2qfx: this build has no dialog yet; only batch runs (-NoUI, -b) are "
                      "available\n");
@@ -217,12 +222,12 @@ int RunProcess(int argc, char** argv) {
             return status;
         }
     }
-    int status;
-    {
+    auto start = [&args] {
         CNdd2QfxApp app(args);
         int started = app.InitInstance();
         app.ExitInstance();
-        status = started == 0 ? -2 : FinishedStatus(app);
-    }
-    return status;
+        return started == 0 ? -2 : FinishedStatus(app);
+    };
+    const UiShellHook& shell = GetUiShell();
+    return shell ? shell(argc, argv, start) : start();
 }

@@ -31,5 +31,6 @@ class CNdd2QfxApp {
 };
 
 // Process entry: "-v" prints the name and version; "-b" runs the start routine with no
-// toolkit on a thread of its own; otherwise the shell runs it. Returns the process status.
+// toolkit on a thread of its own; otherwise the UI shell (ProcessHooks.h) runs it. Returns the
+// process status.
 int RunProcess(int argc, char** argv);

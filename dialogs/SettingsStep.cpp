@@ -1,0 +1,3 @@
+#include "dialogs/SettingsStep.h"
+
+void RunSettingsDialog(CUiDialog&) {}

@@ -1,0 +1,74 @@
+// Takes the pictures of the main window for the README: idle with a board named, in the middle
+// of a translation, and the About box. Run under Xvfb:
+//   xvfb-run -a build/tests/dialog_screenshots docs/images
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "app/SettingsPage.h"
+#include "base/Platform.h"
+#include "dialogs/AboutDialog.h"
+#include "dialogs/Ndd2QfxDlg.h"
+#include "dialogs/forms/ControlIds.h"
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
+#include "model/ReportMessage.h"
+#include "ui/MessageBox.h"
+#include "ui/QtResourceMgr.h"
+
+namespace {
+
+bool Save(QWidget* widget, const std::string& path) {
+    QApplication::processEvents();
+    bool saved = widget->grab().save(QString::fromStdString(path), "PNG");
+    std::printf("%s %s\n", saved ? "wrote" : "could not write", path.c_str());
+    return saved;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: %s OUTPUT-FOLDER\n", argv[0]);
+        return 2;
+    }
+    std::string folder = base::AbsolutePath(argv[1]);
+    QApplication application(argc, argv);
+    CQtNdd2QfxResourceMgr resources;
+    RegisterResourceMgr(&resources);
+    std::string work = base::TempFolder() + "/ndd2qfx_screenshots";
+    base::ChangeFolder(base::TempFolder());
+    if (std::system(("rm -rf '" + work + "' && mkdir -p '" + work +
+                     "' && cp '" NDD2QFX_SOURCE_DIR "/examples/board.ndd' '" + work + "/'")
+                        .c_str()) != 0)
+        return 1;
+    bool ok = true;
+    {
+        // The traces question is answered No, as a quick translation would.
+        CMessageBoxAnswers answers({kAnswerNo});
+        CNdd2QfxDlg dialog;
+        dialog.Create(IDD_Ndd2Qfx_DIALOG);
+        dialog.SetDlgItemText(IDC_EDIT_INPUT, work + "/board.ndd");
+        dialog.SetDlgItemText(IDC_EDIT_OUTPUT, work + "/board.qfx");
+        dialog.GetHandle()->show();
+        ok &= Save(dialog.GetHandle(), folder + "/main-dialog.png");
+        bool taken = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (taken || dialog.GetDlgItemText(IDC_MSG) != "Writing Shape Info...") return;
+            taken = true;
+            ok &= Save(dialog.GetHandle(), folder + "/main-dialog-translating.png");
+        });
+        look.start(0);
+        dialog.OnOK();
+        ok &= taken;
+    }
+    auto about = MakeAboutDialog(nullptr);
+    about->show();
+    ok &= Save(about.get(), folder + "/about-dialog.png");
+    RegisterResourceMgr(nullptr);
+    return ok ? 0 : 1;
+}

@@ -1,0 +1,8 @@
+#pragma once
+// Include in the one file of an executable that holds main() and starts the toolkit. Qt 5 and
+// fontconfig leave some of their singletons behind at exit; the leak checker of the sanitizer
+// build is told so, and reports everything else. Without the sanitizer nothing calls this.
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libqoffscreen.so\nleak:libQt5Gui.so\nleak:libQt5Core.so\n"
+           "leak:libQt5Widgets.so\nleak:libfontconfig.so\n";
+}
