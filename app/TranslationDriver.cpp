@@ -209,7 +209,7 @@ void TranslationDriver::ReadForSettings(const std::string& inputFile,
         g_model.g_strNetNames.clear();
         g_model.g_nNetCount = 0;
         g_model.g_strDisplayNetNames.clear();
-        g_model.g_nNetColor.clear();
+        g_options.g_pNetColors.clear();
     }
     if (m_bReread && !inputFile.empty()) {
         ParseUnits(inputFile);

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "dialogs/ColorPicker.h"
 #include "ui/MessageBox.h"
 
 namespace {
@@ -21,6 +22,13 @@ std::string ChooseFile(QWidget* parent, const FileRequest& request) {
     dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return dialog.selectedFiles().first().toStdString();
+}
+
+bool ChooseNetColor(QWidget* parent, int& colourIndex) {
+    CColorPicker picker(colourIndex, parent);
+    if (picker.DoModal() != kIdOk) return false;
+    colourIndex = picker.GetColorIndex();
+    return true;
 }
 
 bool SomeoneAnswers() {
@@ -36,6 +44,7 @@ bool SomeoneAnswers() {
 DialogServices DesktopServices() {
     DialogServices services;
     services.chooseFile = ChooseFile;
+    services.chooseNetColor = ChooseNetColor;
     services.popupMenu = [](QMenu& menu) { return menu.exec(QCursor::pos()); };
     services.openUrl = [](const std::string& url) {
         return QDesktopServices::openUrl(QUrl(QString::fromStdString(url)));

@@ -1,6 +1,6 @@
 #pragma once
-// What the main dialog asks of the desktop: a file name, a choice from a popup menu, a help
-// page opened in the desktop's viewer, and the end of the process. Each is a replaceable
+// What the dialogs ask of the desktop: a file name, a net colour, a choice from a popup menu, a
+// help page opened in the desktop's viewer, and the end of the process. Each is a replaceable
 // function, so that a test can answer in place of the person and the desktop.
 #include <functional>
 #include <string>
@@ -24,6 +24,9 @@ struct DialogServices {
     std::function<QAction*(QMenu& menu)> popupMenu;
     // Opens a page of the local help (a file URL); false when the desktop could not.
     std::function<bool(const std::string& url)> openUrl;
+    // The colour picker over parent, opened at a colour number (0 default, 1 to 11); false
+    // when the user cancelled, else the number is the one chosen.
+    std::function<bool(QWidget* parent, int& colourIndex)> chooseNetColor;
     // Ends the process at once with status.
     std::function<void(int status)> endProcess;
     // False when no one can answer a window: a platform with no screen and no answerer of

@@ -137,7 +137,7 @@ void CNdd2QfxDlg::OnProperty() {
         return;
     }
     m_driver.ReadForSettings(m_strInputFile, m_strOutputFile);
-    RunSettingsDialog(*this);
+    RunSettingsDialog(*this, m_services);
 }
 
 void CNdd2QfxDlg::OnOK() {

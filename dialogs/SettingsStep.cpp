@@ -1,3 +1,8 @@
 #include "dialogs/SettingsStep.h"
 
-void RunSettingsDialog(CUiDialog&) {}
+#include "dialogs/Ndd2QfxSetting.h"
+
+int RunSettingsDialog(CUiDialog& parent, const DialogServices& services) {
+    CNdd2QfxSetting settings(parent.GetHandle(), services);
+    return settings.DoModal();
+}

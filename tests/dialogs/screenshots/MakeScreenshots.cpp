@@ -3,6 +3,7 @@
 //   xvfb-run -a build/tests/dialog_screenshots docs/images
 #include <QApplication>
 #include <QDialog>
+#include <QTabWidget>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
@@ -13,11 +14,14 @@
 #include "base/Platform.h"
 #include "dialogs/AboutDialog.h"
 #include "dialogs/Ndd2QfxDlg.h"
+#include "dialogs/Ndd2QfxSetting.h"
 #include "dialogs/forms/ControlIds.h"
 #include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
 #include "ui/MessageBox.h"
 #include "ui/QtResourceMgr.h"
+#include "ui/UiListCtrl.h"
 
 namespace {
 
@@ -26,6 +30,34 @@ bool Save(QWidget* widget, const std::string& path) {
     bool saved = widget->grab().save(QString::fromStdString(path), "PNG");
     std::printf("%s %s\n", saved ? "wrote" : "could not write", path.c_str());
     return saved;
+}
+
+// The two pages of the Settings dialog over the example board, with two nets chosen.
+bool SaveSettingsPages(const std::string& folder, const std::string& work) {
+    CNdd2QfxDlg main;
+    main.Create(IDD_Ndd2Qfx_DIALOG);
+    main.SetDlgItemText(IDC_EDIT_INPUT, work + "/board.ndd");
+    main.SetDlgItemText(IDC_EDIT_OUTPUT, work + "/board.qfx");
+    g_options.g_strTraceFile = work + "/traces";
+    g_options.g_pSelectedNets = {0, 2};
+    g_options.g_nSelectedNetCount = 2;
+    g_options.g_bAllNets = 0;
+    bool ok = true;
+    // The Settings step reads the board, then opens the dialog; the pictures are taken in its
+    // modal run, which the last one ends.
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* settings = dynamic_cast<CNdd2QfxSetting*>(g_pModalDialog);
+        if (!settings || !settings->GetHandle()->isVisible()) return;
+        look.stop();
+        ok &= Save(settings->GetHandle(), folder + "/settings-options.png");
+        settings->TabControl()->setCurrentIndex(1);
+        ok &= Save(settings->GetHandle(), folder + "/settings-nets.png");
+        settings->OnCancel();
+    });
+    look.start(50);
+    main.OnProperty();
+    return ok;
 }
 
 }  // namespace
@@ -66,6 +98,7 @@ int main(int argc, char** argv) {
         dialog.OnOK();
         ok &= taken;
     }
+    ok &= SaveSettingsPages(folder, work);
     auto about = MakeAboutDialog(nullptr);
     about->show();
     ok &= Save(about.get(), folder + "/about-dialog.png");
