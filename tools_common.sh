@@ -2,7 +2,8 @@
 set -euo pipefail
 
 NEEDED_PACKAGES=(g++ cmake make ccache pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-                 libdw-dev clang-format locales qtbase5-dev libqt5svg5-dev)
+                 libdw-dev clang-format locales qtbase5-dev libqt5svg5-dev xvfb xauth
+                 fonts-dejavu-core)
 
 # A comma-decimal locale for the test that runs a translation under one.
 TEST_LOCALE=de_DE.UTF-8

@@ -4,7 +4,7 @@
 # One light header per folder; each line of EXPECTED names a library and the folders it sees.
 set(headers
   base/StringMap.h model/ViaOutRec.h geometry/EquivalentRadius.h ndd/Units.h qfx/OutputScale.h
-  ibis/PropertyNames.h app/CommandLine.h)
+  ibis/PropertyNames.h app/CommandLine.h ui/UiTypes.h)
 set(EXPECTED
   "base: base"
   "model: base model"
@@ -12,7 +12,8 @@ set(EXPECTED
   "ndd: base model geometry ndd"
   "qfx: base model geometry ndd qfx"
   "ibis: base model geometry ndd ibis"
-  "app: base model geometry ndd qfx ibis app")
+  "app: base model geometry ndd qfx ibis app"
+  "ui: base model ui")
 
 file(MAKE_DIRECTORY ${WORK})
 set(failures 0)

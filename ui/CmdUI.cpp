@@ -12,7 +12,10 @@ void CQtCmdUI::Enable(bool on) {
 
 void CQtCmdUI::SetCheck(int state) {
     CCmdUI::SetCheck(state);
-    if (CUiWnd* wrapper = CUiWnd::FromHandle(m_pWidget)) wrapper->SetCheck(state);
+    if (CUiWnd* wrapper = CUiWnd::FromHandle(m_pWidget))
+        wrapper->SetCheck(state);
+    else if (auto* button = qobject_cast<QAbstractButton*>(m_pWidget))
+        button->setChecked(state != 0);
 }
 
 void CQtCmdUI::SetText(const std::string& text) {

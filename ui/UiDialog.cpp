@@ -75,11 +75,10 @@ void CUiDialog::FilterComboBoxes() {
 }
 
 int CUiDialog::DoModal() {
-    CUiDialog* outer = g_pModalDialog;
     g_pModalDialog = this;
     int result = -1;
     if (Create(m_nTemplateId, m_pParent, true, nullptr)) result = UiApi().RunModal(GetHandle());
-    g_pModalDialog = outer;
+    g_pModalDialog = nullptr;
     return result;
 }
 

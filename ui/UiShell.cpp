@@ -14,6 +14,7 @@
 namespace {
 
 std::FILE* g_pQtLog = nullptr;
+bool g_bNoScreen = false;
 
 const char* KindOf(QtMsgType type) {
     switch (type) {
@@ -55,10 +56,15 @@ bool NoDisplay() {
     return Unset("DISPLAY") && Unset("WAYLAND_DISPLAY");
 }
 
+bool ShellHasNoScreen() {
+    return g_bNoScreen;
+}
+
 int RunUiShell(int argc, char** argv, IQtResourceMgr* resources,
                const std::function<int()>& start) {
     QtMessageHandler previousHandler = qInstallMessageHandler(WriteQtLog);
-    if (NoDisplay() && Unset("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    g_bNoScreen = NoDisplay() && Unset("QT_QPA_PLATFORM");
+    if (g_bNoScreen) qputenv("QT_QPA_PLATFORM", "offscreen");
     int status;
     {
         int toolkitArgc = argc;
@@ -72,6 +78,7 @@ int RunUiShell(int argc, char** argv, IQtResourceMgr* resources,
         status = start();
         RegisterResourceMgr(nullptr);
     }
+    g_bNoScreen = false;
     qInstallMessageHandler(previousHandler);
     if (g_pQtLog) std::fclose(g_pQtLog);
     g_pQtLog = nullptr;

@@ -12,3 +12,7 @@ int RunUiShell(int argc, char** argv, IQtResourceMgr* resources, const std::func
 
 // True when neither DISPLAY nor WAYLAND_DISPLAY names a display.
 bool NoDisplay();
+
+// True while the shell runs on the offscreen platform because there is no display: nobody can
+// see a window, so a dialog run cannot be served.
+bool ShellHasNoScreen();

@@ -56,8 +56,9 @@ inline WPARAM MakeWParam(unsigned low, unsigned high) {
     return static_cast<WPARAM>((low & 0xFFFF) | ((high & 0xFFFFu) << 16));
 }
 inline LPARAM MakeLParam(int low, int high) {
-    return static_cast<LPARAM>(
-        static_cast<std::uint32_t>((low & 0xFFFF) | ((high & 0xFFFF) << 16)));
+    std::uint32_t word = (static_cast<std::uint32_t>(low) & 0xFFFFu) |
+                         ((static_cast<std::uint32_t>(high) & 0xFFFFu) << 16);
+    return static_cast<LPARAM>(word);
 }
 // A point packed into a word as two 16-bit signed values.
 inline CPoint PointFromLParam(LPARAM l) {

@@ -22,7 +22,10 @@ class CTestDlg : public CUiDialog {
         static const CHandlerChain chain(
             CUiDialog::GetChainHead(),
             OnControl(kCodeEditChange, kEditText, UI_FN(&CTestDlg::OnEditChange)),
-            OnCommand(kCheck, UI_FN(&CTestDlg::OnCheck)));
+            OnCommand(kCheck, UI_FN(&CTestDlg::OnCheck)),
+            OnControl(kCodeDropDown, kCombo, UI_FN(&CTestDlg::OnDropDown)),
+            OnControl(kCodeCloseUp, kCombo, UI_FN(&CTestDlg::OnCloseUp)),
+            OnMessage(kMsgKickIdle, UI_FN(&CTestDlg::OnKickIdle)));
         return chain.Head();
     }
     void DoDataExchange(CDataExchange* dx) override {
@@ -38,11 +41,15 @@ class CTestDlg : public CUiDialog {
     int m_nCheck = 0;
     int m_nChanges = 0;
     int m_nChecks = 0;
+    std::string m_strList;
     CUiComboBox m_combo;
     CUiDialog* m_pModalSeen = nullptr;
 
   private:
     void OnEditChange() { ++m_nChanges; }
+    void OnDropDown() { m_strList += "open;"; }
+    void OnCloseUp() { m_strList += "close;"; }
+    void OnKickIdle() {}
     void OnCheck() {
         ++m_nChecks;
         m_pModalSeen = g_pModalDialog;
@@ -115,6 +122,15 @@ TEST_F(DialogBase, LoadRaisesNoChangeNotificationButTheUserDoes) {
     EXPECT_EQ(dlg.m_strText, "other.ndd");
     EXPECT_EQ(dlg.m_nCheck, 0);
     EXPECT_EQ(dlg.m_nChecks, 1);
+}
+
+TEST_F(DialogBase, ComboBoxListOpeningAndClosingReachTheChain) {
+    ASSERT_TRUE(dlg.Create(kTestFormId));
+    EXPECT_TRUE(dlg.HasIdleHandler());
+    dlg.m_combo.AddString("red");
+    dlg.m_combo.ShowDropDown(true);
+    dlg.m_combo.ShowDropDown(false);
+    EXPECT_EQ(dlg.m_strList, "open;close;");
 }
 
 // Runs the dialog modally while action plays the user.
