@@ -7,7 +7,8 @@
 
 class QPushButton;
 
-// Names the dialog (when it has no name yet) and gives it its size in dialog pixels.
+// Names the dialog (when it has no name yet), gives it the forms' font and its size in dialog
+// pixels.
 void BeginForm(QWidget* dialog, const char* formName, int width, int height);
 // Connects slots by name and scales the form unless `skipScale`.
 void EndForm(QWidget* dialog, bool skipScale);

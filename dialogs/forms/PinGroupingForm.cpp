@@ -9,6 +9,8 @@
 #include "ui/UiListCtrl.h"
 
 struct CqtDialogRes_IDD_DIALOG_PIN_GROUPING::Widgets {
+    QGroupBox* IDC_STATIC_0_ = nullptr;
+    QGroupBox* IDC_STATIC_1_ = nullptr;
     CUiListCtrl* IDC_LIST_CTRL_MAKE_GROUPS_ = nullptr;
     QPushButton* IDC_BUTTON_ADD_GROUP_ = nullptr;
     QPushButton* IDC_BUTTON_ADD_GND_GROUP_ = nullptr;
@@ -17,8 +19,6 @@ struct CqtDialogRes_IDD_DIALOG_PIN_GROUPING::Widgets {
     QPushButton* IDOK_ = nullptr;
     QPushButton* IDCANCEL_ = nullptr;
     QPushButton* IDC_BUTTON_PIN_PROPERTIES_ = nullptr;
-    QGroupBox* IDC_STATIC_0_ = nullptr;
-    QGroupBox* IDC_STATIC_1_ = nullptr;
     QComboBox* IDC_SORT_COMBO_ = nullptr;
     QPushButton* IDC_BUTTON_ADD_PC_GROUP_ = nullptr;
     QPushButton* IDC_BUTTON_ADD_GC_GROUP_ = nullptr;
@@ -39,6 +39,9 @@ void CqtDialogRes_IDD_DIALOG_PIN_GROUPING::setupUi(QWidget* dialog, bool skipSca
     BeginForm(dialog, form, 780, 393);
     m_ui = std::make_unique<Widgets>();
     Widgets& w = *m_ui;
+    // The two boxes first, so that the lists and buttons lie above them.
+    w.IDC_STATIC_0_ = NewFrame<QGroupBox>(dialog, "IDC_STATIC_0", 540, 8, 230, 342);
+    w.IDC_STATIC_1_ = NewFrame<QGroupBox>(dialog, "IDC_STATIC_1", 10, 8, 520, 342);
     w.IDC_LIST_CTRL_MAKE_GROUPS_ =
         NewControl<CUiListCtrl>(dialog, "IDC_LIST_CTRL_MAKE_GROUPS", 550, 30, 210, 220);
     w.IDC_BUTTON_ADD_GROUP_ =
@@ -53,8 +56,6 @@ void CqtDialogRes_IDD_DIALOG_PIN_GROUPING::setupUi(QWidget* dialog, bool skipSca
     w.IDCANCEL_ = NewControl<QPushButton>(dialog, "IDCANCEL", 685, 358, 85, 26);
     w.IDC_BUTTON_PIN_PROPERTIES_ =
         NewControl<QPushButton>(dialog, "IDC_BUTTON_PIN_PROPERTIES", 20, 316, 92, 26);
-    w.IDC_STATIC_0_ = NewFrame<QGroupBox>(dialog, "IDC_STATIC_0", 540, 8, 230, 342);
-    w.IDC_STATIC_1_ = NewFrame<QGroupBox>(dialog, "IDC_STATIC_1", 10, 8, 520, 342);
     w.IDC_SORT_COMBO_ = NewControl<QComboBox>(dialog, "IDC_SORT_COMBO", 20, 30, 160, 24);
     w.IDC_BUTTON_ADD_PC_GROUP_ =
         NewControl<QPushButton>(dialog, "IDC_BUTTON_ADD_PC_GROUP", 550, 286, 102, 26);
