@@ -23,8 +23,8 @@ class CNdd2QfxDlg : public CUiDialog, public TranslationHost {
     // Deletes what a run leaves beside the named input and output (TemporaryFiles.h).
     void DeleteTempFiles();
 
-    // The form's help name.
-    static constexpr const char* kHelpFormName = "Ndd2QfxForm";
+    // The name under which the help knows this window.
+    std::string GetHelpFormName() const { return "Ndd2QfxForm"; }
 
     // Handlers.
     void OnButtonInput();

@@ -115,6 +115,8 @@ TEST_F(MainDialogTest, OpeningNormalisesTheOptionsUnlessALogIsLoadedAndShowsTheC
         EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, logLoaded) << logLoaded;
         EXPECT_EQ(d->GetDlgItemText(IDC_EDIT_INPUT), "/in/a.ndd");
         EXPECT_EQ(d->GetDlgItemText(IDC_EDIT_OUTPUT), "/out/b.qfx");
+        EXPECT_EQ(d->GetHandle()->windowTitle().toStdString(), "Lumora - NDD to QFX  Translator  ");
+        EXPECT_EQ(d->GetHelpFormName(), "Ndd2QfxForm");
     }
     EXPECT_EQ(IbisModelProblemCount(), 0);
 }
