@@ -29,6 +29,7 @@ const PickerCase kCases[] = {
 
 TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
     CQtNdd2QfxResourceMgr resources;
+    IQtResourceMgr* previous = RegisteredResourceMgr();
     RegisterResourceMgr(&resources);
     for (const PickerCase& c : kCases) {
         CColorPicker picker(c.start);
@@ -58,5 +59,5 @@ TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
         else
             EXPECT_NE(qAlpha(middle), 0u);  // the button's own face, not a colour
     }
-    RegisterResourceMgr(nullptr);
+    RegisterResourceMgr(previous);
 }

@@ -20,6 +20,7 @@
 #include "model/LayoutModel.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
+#include "tests/dialogs/ScriptedModals.h"
 #include "ui/MessageBox.h"
 
 namespace {
@@ -71,6 +72,9 @@ class MainDialogTest : public ::testing::Test {
         return enabled;
     }
 
+    // The Settings dialog that OnProperty opens is cancelled at once.
+    ScriptedModals settings{
+        std::vector<ScriptedModals::Script>(4, [](CUiDialog& d) { d.OnCancel(); })};
     std::vector<std::string> chosen;
     std::vector<FileRequest> requests;
     std::string menuChoice;
