@@ -71,6 +71,9 @@ class MainDialogTest : public ::testing::Test {
         return enabled;
     }
 
+    // The Settings dialog that OnProperty opens is cancelled at once.
+    ScriptedModals settings{
+        std::vector<ScriptedModals::Script>(4, [](CUiDialog& d) { d.OnCancel(); })};
     std::vector<std::string> chosen;
     std::vector<FileRequest> requests;
     std::string menuChoice;
