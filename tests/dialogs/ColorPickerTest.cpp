@@ -31,7 +31,6 @@ TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
     // The forms are the program's; the manager that was registered comes back afterwards.
     IQtResourceMgr* previous = RegisteredResourceMgr();
     CQtNdd2QfxResourceMgr resources;
-    IQtResourceMgr* previous = RegisteredResourceMgr();
     RegisterResourceMgr(&resources);
     for (const PickerCase& c : kCases) {
         CColorPicker picker(c.start);

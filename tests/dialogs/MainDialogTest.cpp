@@ -96,7 +96,6 @@ TEST_F(MainDialogTest, EveryCommandReachesItsHandler) {
     };
     // The About entry opens a box of its own: it is only asked for.
     EXPECT_TRUE(d->OnCmdMsg(IDM_ABOUTBOX, kCodeClicked, nullptr, true));
-    ScriptedModals settings({[](CUiDialog& s) { s.OnCancel(); }});
     CMessageBoxAnswers boxes;
     for (Row row :
          {Row{IDC_BUTTON_INPUT, "OnButtonInput"}, Row{IDC_BUTTON_OUTPUT, "OnButtonOutput"},
@@ -203,7 +202,6 @@ TEST_F(MainDialogTest, AnUnreadableInputStopsTheSettingsStep) {
     auto d = Open();
     d->SetDlgItemText(IDC_EDIT_INPUT, dir.File("missing.ndd"));
     CMessageBoxAnswers boxes;
-    ScriptedModals settings({});
     d->OnProperty();
     EXPECT_EQ(Texts(boxes), std::vector<std::string>{
                                 "Unable To open The Input NDD File\nPlease Check the Permissions"});
