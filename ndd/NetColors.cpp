@@ -1,10 +1,34 @@
 #include "ndd/NetColors.h"
 
+#include <strings.h>
+
 #include <algorithm>
+#include <cstring>
 
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
+
+namespace {
+
+// The net of exactly this name when the table holds names that differ only in case ("VCC"
+// and "Vcc" keep their own colours); otherwise the look-up without case.
+int32_t LogNetIndex(const std::string& name) {
+    const int32_t found = NetIndexByName(name);
+    if (found < 0 || found >= g_model.g_nNetCount) return found;
+    auto sameIgnoringCase = [&](int32_t i) {
+        return strcasecmp(name.c_str(), g_model.g_strNetNames[static_cast<size_t>(i)].name) == 0;
+    };
+    int32_t first = found, last = found;
+    while (first > 0 && sameIgnoringCase(first - 1)) --first;
+    while (last + 1 < g_model.g_nNetCount && sameIgnoringCase(last + 1)) ++last;
+    for (int32_t i = first; i <= last; ++i)
+        if (std::strcmp(name.c_str(), g_model.g_strNetNames[static_cast<size_t>(i)].name) == 0)
+            return i;
+    return found;
+}
+
+}  // namespace
 
 void AssignNetColors() {
     std::vector<int32_t>& colors = g_options.g_pNetColors;
@@ -19,7 +43,7 @@ void ApplyLogNetColors() {
     if (o.g_pNetColors.size() < static_cast<size_t>(g_model.g_nNetCount))
         o.g_pNetColors.resize(static_cast<size_t>(g_model.g_nNetCount), 0);
     for (size_t k = 0; k < count; ++k) {
-        int32_t net = NetIndexByName(o.g_lstLogNets[k]);
+        int32_t net = LogNetIndex(o.g_lstLogNets[k]);
         if (net >= 0 && net < g_model.g_nNetCount)
             o.g_pNetColors[static_cast<size_t>(net)] = NetColorIndexByName(o.g_lstLogColors[k]);
     }
