@@ -53,6 +53,5 @@ void TakeLogNetSelection() {
     TranslationOptions& o = g_options;
     o.g_nSelectedNetCount = static_cast<int32_t>(o.g_lstLogNets.size());
     o.g_pSelectedNets.clear();
-    for (const std::string& name : o.g_lstLogNets)
-        o.g_pSelectedNets.push_back(NetIndexByName(name));
+    for (const std::string& name : o.g_lstLogNets) o.g_pSelectedNets.push_back(LogNetIndex(name));
 }
