@@ -6,6 +6,7 @@
 
 #include "base/ScopedClassicLocale.h"
 
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -72,6 +73,29 @@ bool IsFolder(const std::string& path) {
 
 bool RemoveFile(const std::string& path) {
     return std::remove(path.c_str()) == 0;
+}
+
+bool IsReadOnlyFile(const std::string& path) {
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) return false;
+    // The permission bits decide even for the superuser, whom access() never refuses.
+    return (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || ::access(path.c_str(), W_OK) != 0;
+}
+
+bool DeleteUnlessReadOnly(const std::string& path) {
+    if (IsReadOnlyFile(path)) {
+        errno = EACCES;
+        return false;
+    }
+    return RemoveFile(path);
+}
+
+bool RenameWithoutReplacing(const std::string& from, const std::string& to) {
+    if (PathExists(to)) {
+        errno = EEXIST;
+        return false;
+    }
+    return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
 std::string TempFolder() {

@@ -21,6 +21,13 @@ bool ChangeFolder(const std::string& folder);
 bool PathExists(const std::string& path);
 bool IsFolder(const std::string& path);
 bool RemoveFile(const std::string& path);
+// A file that nobody may write: no write permission bit is set, or this process may not
+// write it. Windows calls such a file read-only and refuses to delete it.
+bool IsReadOnlyFile(const std::string& path);
+// Deletes a file as Windows does: a read-only file stays, and the call fails.
+bool DeleteUnlessReadOnly(const std::string& path);
+// Renames as Windows does: an existing file under the new name is not replaced.
+bool RenameWithoutReplacing(const std::string& from, const std::string& to);
 // TMP, then TEMP, then TMPDIR, then /tmp.
 std::string TempFolder();
 // Folder of the running program, with a trailing separator.

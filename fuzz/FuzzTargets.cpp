@@ -12,6 +12,9 @@
 
 #include "app/LogLoader.h"
 #include "app/TranslationDriver.h"
+#include "ibis/IbisReader.h"
+#include "ibis/PinMappingRows.h"
+#include "ibis/PinMappingWriter.h"
 #include "model/BatchHost.h"
 #include "model/LayoutModel.h"
 #include "model/TraceStep.h"
@@ -132,6 +135,22 @@ int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder
     std::string named = input, output = folder + "/out.qfx";
     if (!LoadLogFile(log, named, output)) return 0;
     return RunTranslation(input, folder);
+}
+
+int SavePinMapping(const uint8_t* data, size_t size, const std::string& folder) {
+    ResetForInput();
+    ComponentRec part;
+    part.isActive = 1;
+    part.ibisFile = folder + "/part.ibs";
+    if (!WriteBytes(part.ibisFile, data, size)) return 0;
+    for (const char* name : {"1", "2", "3", "4", "5"}) part.pins.emplace_back().name = name;
+    ParseIbisFile(part);
+    StoreMappingRows(
+        part, {{"2", "GNDGRP0", "PWRGRP0", "GNDGRP0", "PWRGRP0"}},
+        {{"PWRGRP0", "PU", {"5"}}, {"GNDGRP0", "PD", {"3"}}, {kAvailablePinsGroup, "ALL", {"1"}}});
+    int saved = PinMappingWriter(part);
+    ParseIbisFile(part);
+    return saved;
 }
 
 }  // namespace fuzz

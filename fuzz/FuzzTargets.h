@@ -51,4 +51,9 @@ int TranslateWithIbis(const uint8_t* data, size_t size, const std::string& folde
 int TranslateWithLog(const uint8_t* data, size_t size, const std::string& folder,
                      const std::string& boardPath);
 
+// The bytes as the IBIS file of a five-pin part whose power, ground and no-connect pins are
+// put in groups and saved, as the pin mapping dialog does, then read back. Returns 1 when the
+// file was saved.
+int SavePinMapping(const uint8_t* data, size_t size, const std::string& folder);
+
 }  // namespace fuzz

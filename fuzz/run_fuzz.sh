@@ -4,7 +4,7 @@
 # and findings.
 #
 #   fuzz/run_fuzz.sh HARNESS SECONDS [more libFuzzer flags]
-#   HARNESS: translate | traces | hkp | ibis | log     (fuzz/run_fuzz.sh list shows the built ones)
+#   HARNESS: translate | traces | hkp | ibis | log | pinmap    (fuzz/run_fuzz.sh list shows the built ones)
 #
 # The working corpus grows in build-fuzz/corpus/HARNESS (seeded from fuzz/corpus/HARNESS),
 # crashing, hanging and memory-hungry inputs land in build-fuzz/findings/HARNESS, the whole

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ibis/ModelTable.h"
+#include "ibis/PinMappingRows.h"
 #include "ndd/NddInput.h"
 #include "ndd/NddTokens.h"
 
@@ -17,10 +18,6 @@ using Rails = std::unordered_map<std::string, std::string>;
 
 bool IsComment(const std::string& line) {
     return !line.empty() && line[0] == '|';
-}
-
-bool IsRealRef(const std::string& ref) {
-    return !ref.empty() && ref != "NC" && ref != "nc";
 }
 
 int32_t PinClassOfModel(const std::string& model) {
@@ -211,12 +208,7 @@ void IbisScan::MapSignalPin(PinRec& pin, const MappingRow& row) {
     pin.pullupRef = has.pu ? ref[1] : std::string();
     pin.gndClampRef = has.gc ? ref[2] : std::string();
     pin.powerClampRef = has.pc ? ref[3] : std::string();
-    auto both = [](const std::string& a, const std::string& b) {
-        return IsRealRef(a) && IsRealRef(b);
-    };
-    if (!both(pin.pullupRef, pin.pulldownRef) && !both(pin.powerClampRef, pin.gndClampRef) &&
-        !both(pin.pullupRef, pin.gndClampRef) && !both(pin.pulldownRef, pin.powerClampRef))
-        ++incomplete_;
+    if (!HasOpposingReferences(pin)) ++incomplete_;
 }
 
 bool IbisScan::ReadModels() {

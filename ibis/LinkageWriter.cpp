@@ -5,6 +5,7 @@
 #include "ibis/CircuitForm.h"
 #include "ibis/ComponentNodes.h"
 #include "ibis/ModelAssignment.h"
+#include "ibis/PinMappingRows.h"
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "ndd/NddTokens.h"
@@ -16,10 +17,6 @@ std::string DotsAndCommasUnderscored(std::string name) {
     for (char& c : name)
         if (c == '.' || c == ',') c = '_';
     return name;
-}
-
-bool IsRealRef(const std::string& ref) {
-    return !ref.empty() && ref != "NC" && ref != "nc";
 }
 
 // Whether a pin's net lets it into a linkage.
@@ -80,7 +77,7 @@ PinRec* PinNamed(ComponentRec& c, const std::string& name) {
 // or was written for an earlier pin.
 void GroupLines(ComponentNodes& nodes, ComponentRec& c, const std::string& ref,
                 base::StringMap<int>& done, std::string& lines, bool& connected) {
-    if (!IsRealRef(ref)) return;
+    if (!IsRealReference(ref)) return;
     GroupRec* group = c.groups.Find(ref);
     if (!group) return;
     if (done.Contains(ref)) {

@@ -57,10 +57,17 @@ void CQtEventBridge::StartIdle() {
     m_idle.start(kIdleMilliseconds);
 }
 
+// Each beat runs the idle handlers, then the update handlers of the form's controls.
 void CQtEventBridge::SendIdle() {
     if (!m_pTarget) return;
     m_pTarget->OnWndMsg(kMsgIdleUpdateCmdUI, 1, 0);
     m_pTarget->OnWndMsg(kMsgKickIdle, 0, 0);
+    for (int id : UiApi().GetFormControlIds(static_cast<QWidget*>(parent()))) {
+        const unsigned uid = static_cast<unsigned>(id);
+        if (!m_pTarget->OnCmdMsg(uid, kCodeUpdateCommandUI, nullptr, true)) continue;
+        CqtMfcUpdateCmdUIEvent update(uid);
+        QCoreApplication::sendEvent(this, &update);
+    }
 }
 
 bool CQtEventBridge::event(QEvent* e) {

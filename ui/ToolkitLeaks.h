@@ -4,5 +4,6 @@
 // build is told so, and reports everything else. Without the sanitizer nothing calls this.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libqoffscreen.so\nleak:libQt5Gui.so\nleak:libQt5Core.so\n"
-           "leak:libQt5Widgets.so\nleak:libfontconfig.so\n";
+           "leak:libQt5Widgets.so\nleak:libQt5DBus.so\nleak:libfontconfig.so\n"
+           "leak:libglib-2.0.so\nleak:libdbus-1.so\n";
 }

@@ -8,6 +8,7 @@
 
 #include "base/Platform.h"
 #include "model/TranslationHost.h"
+#include "ui/CrashSnapshot.h"
 #include "ui/MessageBoxHost.h"
 #include "ui/QtResourceMgr.h"
 
@@ -73,9 +74,11 @@ int RunUiShell(int argc, char** argv, IQtResourceMgr* resources,
         // The toolkit set the user's locale; the program's numbers are in the "C" form.
         std::setlocale(LC_NUMERIC, "C");
         RegisterResourceMgr(resources);
+        InstallCrashSnapshot();
         CMessageBoxHost host;
         HostScope scope(host);
         status = start();
+        RemoveCrashSnapshot();
         RegisterResourceMgr(nullptr);
     }
     g_bNoScreen = false;

@@ -50,8 +50,8 @@ void CUiWnd::SetWindowText(const std::string& text) {
         button->setText(q);
     else if (auto* edit = qobject_cast<QLineEdit*>(w))
         edit->setText(q);
-    else if (auto* combo = qobject_cast<QComboBox*>(w); combo && combo->isEditable())
-        combo->setEditText(q);
+    else if (auto* combo = qobject_cast<QComboBox*>(w))
+        combo->isEditable() ? combo->setEditText(q) : combo->setCurrentIndex(combo->findText(q));
     else if (auto* plain = qobject_cast<QPlainTextEdit*>(w))
         plain->setPlainText(q);
     else if (auto* rich = qobject_cast<QTextEdit*>(w))

@@ -9,7 +9,10 @@
 #include <string>
 
 #include "TestForm.h"
+#include "ui/BridgeEvents.h"
+#include "ui/CmdUI.h"
 #include "ui/DataExchange.h"
+#include "ui/QtEventBridge.h"
 #include "ui/UiControls.h"
 #include "ui/UiDialog.h"
 
@@ -25,7 +28,8 @@ class CTestDlg : public CUiDialog {
             OnCommand(kCheck, UI_FN(&CTestDlg::OnCheck)),
             OnControl(kCodeDropDown, kCombo, UI_FN(&CTestDlg::OnDropDown)),
             OnControl(kCodeCloseUp, kCombo, UI_FN(&CTestDlg::OnCloseUp)),
-            OnMessage(kMsgKickIdle, UI_FN(&CTestDlg::OnKickIdle)));
+            OnMessage(kMsgKickIdle, UI_FN(&CTestDlg::OnKickIdle)),
+            OnUpdateCommandUI(kLabel, UI_FN(&CTestDlg::OnUpdateLabel)));
         return chain.Head();
     }
     void DoDataExchange(CDataExchange* dx) override {
@@ -49,7 +53,8 @@ class CTestDlg : public CUiDialog {
     void OnEditChange() { ++m_nChanges; }
     void OnDropDown() { m_strList += "open;"; }
     void OnCloseUp() { m_strList += "close;"; }
-    void OnKickIdle() {}
+    void OnKickIdle() { m_strList += "idle;"; }
+    void OnUpdateLabel(CCmdUI* ui) { ui->Enable(false); }
     void OnCheck() {
         ++m_nChecks;
         m_pModalSeen = g_pModalDialog;
@@ -131,6 +136,17 @@ TEST_F(DialogBase, ComboBoxListOpeningAndClosingReachTheChain) {
     dlg.m_combo.ShowDropDown(true);
     dlg.m_combo.ShowDropDown(false);
     EXPECT_EQ(dlg.m_strList, "open;close;");
+}
+
+TEST_F(DialogBase, BridgeEventsReachTheChain) {
+    ASSERT_TRUE(dlg.Create(kTestFormId));
+    QObject* bridge = CQtEventBridge::Of(dlg.GetHandle());
+    CqtMfcUpdateCmdUIEvent update(kLabel);
+    CqtMfcCustomEvent idle(kMsgKickIdle, 0, 0);
+    QApplication::sendEvent(bridge, &update);
+    QApplication::sendEvent(bridge, &idle);
+    EXPECT_FALSE(dlg.GetDlgItem(kLabel)->IsWindowEnabled());
+    EXPECT_EQ(dlg.m_strList, "idle;");
 }
 
 // Runs the dialog modally while action plays the user.

@@ -1,4 +1,5 @@
-// With no display, "-NoUI" starts the toolkit offscreen and translates exactly as "-b".
+// With no display, "-NoUI" starts the toolkit offscreen and translates exactly as "-b":
+// the same files, and the same words on the terminal (the toolkit's own go to qt.log).
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -17,14 +18,14 @@ std::string Outputs(const std::string& folder) {
         if (line.find("day ") == std::string::npos || line.find(" 20") == std::string::npos)
             undated += line + "\n";
     return ReadFile(folder + "/board.qfx") + "\n--log--\n" + undated + "\n--error.log--\n" +
-           ReadFile(folder + "/error.log");
+           ReadFile(folder + "/error.log") + "\n--terminal--\n" + ReadFile(folder + "/terminal");
 }
 
 std::string Translate(const std::string& folder, const char* mode) {
     std::string cmd = "cd '" + folder +
                       "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM KEEP_BENCHMARK=0 "
                       "'" NDD2QFX_BINARY "' " +
-                      mode + " board.ndd >/dev/null 2>&1";
+                      mode + " board.ndd >/dev/null 2>terminal";
     EXPECT_EQ(std::system(cmd.c_str()), 0) << mode;
     return Outputs(folder);
 }
