@@ -28,8 +28,9 @@ const PickerCase kCases[] = {
 }  // namespace
 
 TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
-    CQtNdd2QfxResourceMgr resources;
+    // The forms are the program's; the manager that was registered comes back afterwards.
     IQtResourceMgr* previous = RegisteredResourceMgr();
+    CQtNdd2QfxResourceMgr resources;
     RegisterResourceMgr(&resources);
     for (const PickerCase& c : kCases) {
         CColorPicker picker(c.start);
