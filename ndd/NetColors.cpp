@@ -1,30 +1,29 @@
 #include "ndd/NetColors.h"
 
-#include <strings.h>
-
 #include <algorithm>
-#include <cstring>
 
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
+#include "ndd/NddTokens.h"
 #include "ndd/NetTable.h"
 
 namespace {
 
-// The net of exactly this name when the table holds names that differ only in case ("VCC"
-// and "Vcc" keep their own colours); otherwise the look-up without case.
+// The net of a log's name: the one spelt exactly so, else one that differs only in case. The
+// table is sorted without case, so names that differ only in case stand side by side.
 int32_t LogNetIndex(const std::string& name) {
-    const int32_t found = NetIndexByName(name);
+    int32_t found = NetIndexByName(name);
     if (found < 0 || found >= g_model.g_nNetCount) return found;
-    auto sameIgnoringCase = [&](int32_t i) {
-        return strcasecmp(name.c_str(), g_model.g_strNetNames[static_cast<size_t>(i)].name) == 0;
+    auto spelt = [&name](int32_t i) {
+        return name == g_model.g_strNetNames[static_cast<size_t>(i)].name;
     };
-    int32_t first = found, last = found;
-    while (first > 0 && sameIgnoringCase(first - 1)) --first;
-    while (last + 1 < g_model.g_nNetCount && sameIgnoringCase(last + 1)) ++last;
-    for (int32_t i = first; i <= last; ++i)
-        if (std::strcmp(name.c_str(), g_model.g_strNetNames[static_cast<size_t>(i)].name) == 0)
-            return i;
+    auto sameNoCase = [&name](int32_t i) {
+        return EqualsNoCase(g_model.g_strNetNames[static_cast<size_t>(i)].name, name);
+    };
+    for (int32_t i = found; i >= 0 && sameNoCase(i); --i)
+        if (spelt(i)) return i;
+    for (int32_t i = found + 1; i < g_model.g_nNetCount && sameNoCase(i); ++i)
+        if (spelt(i)) return i;
     return found;
 }
 
