@@ -2,6 +2,8 @@
 #include "app/ProcessHooks.h"
 #include "base/CrashHandler.h"
 #include "base/KnownLocations.h"
+#include "dialogs/Ndd2QfxDlg.h"
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "guireplay/ReplayStart.h"
 #include "ui/ToolkitLeaks.h"
 #include "ui/UiShell.h"
@@ -12,9 +14,9 @@ int main(int argc, char** argv) {
     // Record or play a session when the environment asks; it comes with the application object.
     guireplay::ArmFromEnvironment();
     SetUiShell([](int shellArgc, char** shellArgv, const std::function<int()>& start) {
-        // The forms' resource manager is registered here when the toolkit starts.
-        IQtResourceMgr* resources = nullptr;
-        return RunUiShell(shellArgc, shellArgv, resources, start);
+        CQtNdd2QfxResourceMgr resources;
+        return RunUiShell(shellArgc, shellArgv, &resources, start);
     });
+    SetMainDialogRunner(RunMainDialog);
     return RunProcess(argc, argv);
 }

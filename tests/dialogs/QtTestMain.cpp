@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
+#include "ui/QtResourceMgr.h"
 #include "ui/ToolkitLeaks.h"
 
 int main(int argc, char** argv) {
@@ -10,5 +12,10 @@ int main(int argc, char** argv) {
     // Listing the tests at build time happens without CTest's environment, and without display.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    return RUN_ALL_TESTS();
+    // The dialogs find their forms as the program's do.
+    CQtNdd2QfxResourceMgr resources;
+    RegisterResourceMgr(&resources);
+    int status = RUN_ALL_TESTS();
+    RegisterResourceMgr(nullptr);
+    return status;
 }
