@@ -11,6 +11,7 @@
 
 #include "dialogs/ColorPicker.h"
 #include "ui/MessageBox.h"
+#include "ui/SessionDriven.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ bool SomeoneAnswers() {
     bool answered = static_cast<bool>(answerer);
     SetMessageBoxAnswerer(std::move(answerer));
     QString platform = QGuiApplication::platformName();
-    return answered || (platform != "offscreen" && platform != "minimal");
+    return answered || ui::SessionDriven() || (platform != "offscreen" && platform != "minimal");
 }
 
 }  // namespace

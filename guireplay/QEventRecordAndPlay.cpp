@@ -6,6 +6,7 @@
 
 #include "guireplay/EventPlayer.h"
 #include "guireplay/EventRecorder.h"
+#include "ui/SessionDriven.h"
 
 #include <QTimer>
 
@@ -30,6 +31,8 @@ QEventRecordAndPlay::~QEventRecordAndPlay() {
 }
 
 void QEventRecordAndPlay::Begin() {
+    // The session answers the program's boxes itself, on any platform.
+    ui::SetSessionDriven(m_recorder || m_player);
     if (m_recorder) {
         QCoreApplication::instance()->installEventFilter(this);
         m_recorder->Launch();
@@ -59,6 +62,7 @@ void QEventRecordAndPlay::CloseWindows() {
 void QEventRecordAndPlay::End() {
     if (m_recorder) m_recorder->Stop();
     if (m_player) m_player->Abort();
+    ui::SetSessionDriven(false);
     if (QCoreApplication::instance()) QCoreApplication::instance()->removeEventFilter(this);
 }
 

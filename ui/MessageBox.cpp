@@ -5,6 +5,7 @@
 
 #include "Version.h"
 #include "model/ReportMessage.h"
+#include "ui/SessionDriven.h"
 #include "ui/UiApi.h"
 
 const char* const kMessageBoxTitle = NDD2QFX_PRODUCT_NAME;
@@ -16,6 +17,7 @@ MessageBoxAnswerer g_answerer;
 // Nobody can see a box on a platform with no screen: the text goes to standard error and the
 // box is answered as a batch run answers it.
 bool NobodyCanSee() {
+    if (qApp && ui::SessionDriven()) return false;
     return !qApp || QGuiApplication::platformName() == "offscreen" ||
            QGuiApplication::platformName() == "minimal";
 }

@@ -2,12 +2,21 @@
 #   cmake -DPROGRAM=<exe> -DSESSION=<folder> -DWORK=<folder> -DSOURCE=<source tree> -P PlaySession.cmake
 # The session folder holds session.brf, session.xml and CheckPointFiles/, and may hold:
 #   args.txt      the program's arguments; @SOURCE@ stands for the source tree
+#   inputs.txt    files copied into WORK before the play, one a line; @SOURCE@ as above
 #   expected.txt  lines the play log must hold (time stamps left out); without it the play must
 #                 end with "Play Ended", every check point passing and no error.
 # The folder is copied to WORK, which is the program's working folder, so that nothing of the
 # play is written into the source tree.
+cmake_policy(SET CMP0053 NEW)
 file(REMOVE_RECURSE ${WORK})
 file(COPY ${SESSION}/ DESTINATION ${WORK})
+if(EXISTS ${WORK}/inputs.txt)
+  file(STRINGS ${WORK}/inputs.txt inputs)
+  foreach(input IN LISTS inputs)
+    string(REPLACE "@SOURCE@" "${SOURCE}" input "${input}")
+    file(COPY ${input} DESTINATION ${WORK})
+  endforeach()
+endif()
 set(args "")
 if(EXISTS ${WORK}/args.txt)
   file(READ ${WORK}/args.txt args)
