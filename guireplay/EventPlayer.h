@@ -31,6 +31,8 @@ class EventPlayer : public QObject {
 
     bool IsDone() const { return m_done; }
     // True when every step ran and every check point passed.
+    // True when the play went through to its last step, whatever its check points found.
+    bool Ended() const { return m_done && m_ended; }
     bool Succeeded() const { return m_done && m_ended && m_failures == 0; }
     QString PlayLogPath() const { return m_logPath; }
 

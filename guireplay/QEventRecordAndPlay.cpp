@@ -39,7 +39,8 @@ void QEventRecordAndPlay::Begin() {
     }
     if (!m_player) return;
     connect(m_player.get(), &EventPlayer::finished, this, [this] {
-        if (!m_player->Succeeded()) CloseWindows();
+        // A play that went to its end leaves the program to go on as the session did.
+        if (!m_player->Ended()) CloseWindows();
     });
     if (m_player->Load(m_settings.playPath)) m_player->Start();
 }
