@@ -94,6 +94,7 @@ DriveStep CheckPoint(const char* window) {
 const char* const kMain = "IDC_EDIT_INPUT";
 const char* const kSettings = "IDC_NET_CHOICE";
 const char* const kPicker = "IDC_COLOR_NAME";
+const char* const kFileDialog = "fileNameEdit";
 
 const std::map<std::string, std::vector<DriveStep>>& Sessions() {
     static const std::map<std::string, std::vector<DriveStep>> sessions = {
@@ -108,6 +109,11 @@ const std::map<std::string, std::vector<DriveStep>>& Sessions() {
           Key(kPicker, kPicker, Qt::Key_Down), Key(kPicker, kPicker, Qt::Key_Down),
           CheckPoint(kPicker), Click(kPicker, "IDOK"), CheckPoint(kSettings),
           Click(kSettings, "IDOK"), CheckPoint(kMain), Click(kMain, "IDCANCEL")}},
+        {"load_log",
+         {Click(kMain, "IDC_LOAD_LOG"), Type(kFileDialog, kFileDialog, "rerun.log"),
+          Key(kFileDialog, kFileDialog, Qt::Key_Return), Click(kMain, "IDC_PROPERTY"),
+          CheckPoint(kSettings), Click(kSettings, "IDOK"), Click(kMain, "IDOK"),
+          Answer(QMessageBox::No)}},
     };
     return sessions;
 }
