@@ -89,28 +89,12 @@ Block ReadNetBlock(LogLines& lines) {
     return Block::None;
 }
 
-int32_t ColorIndexByName(const std::string& name) {
-    for (int32_t i = 0; i < 11; ++i)
-        if (EqualsNoCase(name, kNetColorNames[i])) return i + 1;
-    return 0;
-}
-
-// The chosen nets of the log, bound to the input's net table.
+// The chosen nets of the log, bound to the input's net table, with the log's colours over
+// the defaults.
 void SelectLogNets(const std::string& inputFile) {
     if (auto stream = OpenNdd(inputFile)) ParseNet(*stream);
-    TranslationOptions& o = g_options;
-    const size_t count = o.g_lstLogNets.size();
-    o.g_nSelectedNetCount = static_cast<int32_t>(count);
-    o.g_pSelectedNets.assign(count, kNoNet);
-    o.g_pNetColors.assign(static_cast<size_t>(g_model.g_nNetCount), 0);
-    for (int32_t i = 0; i < g_model.g_nNetCount; ++i)
-        o.g_pNetColors[static_cast<size_t>(i)] = i % 11 + 1;
-    for (size_t k = 0; k < count; ++k) {
-        int32_t net = NetIndexByName(o.g_lstLogNets[k]);
-        o.g_pSelectedNets[k] = net;
-        if (net >= 0 && net < g_model.g_nNetCount)
-            o.g_pNetColors[static_cast<size_t>(net)] = ColorIndexByName(o.g_lstLogColors[k]);
-    }
+    AssignNetColors();
+    TakeLogNetSelection();
 }
 
 double NumberAt(const std::string& line, size_t position) {

@@ -197,6 +197,45 @@ int TranslationDriver::ReadDesignData(const std::string& inputFile) {
     return 1;
 }
 
+void TranslationDriver::ForgetInput() {
+    if (!m_bReread) return;
+    EmptyComponentLists();
+    g_options.g_nSelectedNetCount = 0;
+}
+
+void TranslationDriver::ReadForSettings(const std::string& inputFile,
+                                        const std::string& outputFile) {
+    if (m_bReread && inputFile.empty()) {
+        g_model.g_strNetNames.clear();
+        g_model.g_nNetCount = 0;
+        g_model.g_strDisplayNetNames.clear();
+        g_options.g_pNetColors.clear();
+    }
+    if (m_bReread && !inputFile.empty()) {
+        ParseUnits(inputFile);
+        ReadAliasProperties(inputFile);
+        if (auto nets = OpenNdd(inputFile)) {
+            ParseNet(*nets);
+            AssignNetColors();
+        }
+        if (auto packages = OpenNdd(inputFile)) ReadPackageDefs(*packages);
+        if (auto stream = OpenNdd(inputFile)) {
+            GetCompPlacementInfo(*stream, 0);
+            stream->Rewind();
+            GetPinNetInfo(*stream, inputFile);
+        }
+        // No message file yet: the output is not open before Translate.
+        g_pModelAssignment =
+            std::make_unique<ModelAssignment>(&g_model.g_mapComponents, outputFile, nullptr,
+                                              nullptr, &m_mapIbisAssignments, inputFile);
+        g_pModelAssignment->ResolveModels();
+        g_pModelAssignment->ibisParts.Clear();
+        for (const std::string& part : m_lstUnresolvedParts)
+            g_pModelAssignment->ibisParts.Set(part, "T");
+    }
+    m_bReread = false;
+}
+
 void TranslationDriver::EmptyComponentLists() {
     // The model assignment points into the component table: it goes first.
     g_pComponentNodes.reset();

@@ -31,6 +31,16 @@ class TranslationDriver {
 
     // The input is read afresh by the next Translate: after a new input or a log load.
     void RereadInput() { m_bReread = true; }
+    // True while the next Translate (or Settings step) reads the input's library data.
+    bool Rereads() const { return m_bReread; }
+
+    // The Settings step, before the user picks nets and models. When the input is to be read
+    // afresh, ForgetInput empties the component lists and the chosen nets, and ReadForSettings
+    // reads a named input as far as the Settings dialog needs it (units, aliases, nets and
+    // their colours, parts, placements, pin nets, models); an unnamed one leaves no nets.
+    // Afterwards the next Translate reads no more of it, so what the user picked stays.
+    void ForgetInput();
+    void ReadForSettings(const std::string& inputFile, const std::string& outputFile);
     // A part whose model the user has yet to settle; it takes part in the IBIS step.
     void AddUnresolvedPart(const std::string& partNumber);
 

@@ -16,16 +16,9 @@ void ResetLogWarnings() {
 
 namespace {
 
-// The colour that the output gives the net.
-int32_t NetColorIndex(int32_t net) {
-    const auto& colors = g_model.g_nNetColor;
-    return net >= 0 && static_cast<size_t>(net) < colors.size() ? colors[static_cast<size_t>(net)]
-                                                                : 0;
-}
-
 void WriteNetLine(FILE* log, int32_t net) {
     std::string name = PlainNetName(net);
-    const char* color = NetColorName(NetColorIndex(net));
+    const char* color = NetColorName(NetColorOf(net));
     if (color)
         std::fprintf(log, "\t%s\t%s\n", name.c_str(), color);
     else

@@ -2,6 +2,8 @@
 #include "app/ProcessHooks.h"
 #include "base/CrashHandler.h"
 #include "base/KnownLocations.h"
+#include "dialogs/Ndd2QfxDlg.h"
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "ui/ToolkitLeaks.h"
 #include "ui/UiShell.h"
 
@@ -9,9 +11,9 @@ int main(int argc, char** argv) {
     base::InstallCrashHandlers(-1);
     base::InitializeLuLib("Translators");
     SetUiShell([](int shellArgc, char** shellArgv, const std::function<int()>& start) {
-        // The forms' resource manager is registered here when the toolkit starts.
-        IQtResourceMgr* resources = nullptr;
-        return RunUiShell(shellArgc, shellArgv, resources, start);
+        CQtNdd2QfxResourceMgr resources;
+        return RunUiShell(shellArgc, shellArgv, &resources, start);
     });
+    SetMainDialogRunner(RunMainDialog);
     return RunProcess(argc, argv);
 }

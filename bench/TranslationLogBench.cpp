@@ -61,7 +61,7 @@ void BM_WriteLogHeaderAllNets(benchmark::State& state) {
         NetRec rec;
         std::snprintf(rec.name, sizeof rec.name, "%s", NetName(i).c_str());
         g_model.g_strNetNames.push_back(rec);
-        g_model.g_nNetColor.push_back(i % 11 + 1);
+        g_options.g_pNetColors.push_back(i % 11 + 1);
     }
     g_model.g_nNetCount = n;
     FILE* sink = std::fopen("/dev/null", "w");

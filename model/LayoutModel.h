@@ -47,7 +47,6 @@ struct LayoutModel {
     std::vector<NetRec> g_strNetNames;
     int32_t g_nNetCount = 0;
     std::vector<std::string> g_strDisplayNetNames;
-    std::vector<int32_t> g_nNetColor;
 
     // Layer stack.
     std::vector<MaterialRec> g_lstMaterials;

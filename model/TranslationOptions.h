@@ -55,6 +55,8 @@ struct TranslationOptions {
     // Net selection.
     int32_t g_nSelectedNetCount = 0;
     std::vector<int32_t> g_pSelectedNets;
+    // Colour index of every net, by net index: the one record of net colours. Reading the
+    // net table fills the defaults; a loaded log and the net choice put the user's colours in.
     std::vector<int32_t> g_pNetColors;
     std::vector<int32_t> g_aSortedSelectedNets;  // g_pSelectedNets sorted, for look-ups
     int32_t g_bAllNets = 1;
@@ -100,3 +102,8 @@ void ResetTranslationOptions();
 extern const char* const kNetColorNames[11];
 // Name of colour index i (1-based), or nullptr when out of range.
 const char* NetColorName(int32_t index);
+// Colour index of a colour name, ignoring case: 1 to 11, or 0 (default) for any other word.
+int32_t NetColorIndexByName(const std::string& name);
+// The colour of a net as the output and the log give it: the one held in g_pNetColors, where
+// the user's choice lives. A net without an entry (or no net at all) has 0, the default.
+int32_t NetColorOf(int32_t net);

@@ -68,12 +68,6 @@ void BuildDisplayNetNames() {
     for (auto& p : pairs) g_model.g_strDisplayNetNames[static_cast<size_t>(p.second)] = p.first;
 }
 
-void AssignNetColors() {
-    g_model.g_nNetColor.assign(static_cast<size_t>(g_model.g_nNetCount), 0);
-    for (int32_t i = 0; i < g_model.g_nNetCount; ++i)
-        g_model.g_nNetColor[static_cast<size_t>(i)] = i % 11 + 1;
-}
-
 int32_t NetIndexByName(const std::string& name) {
     int lo = 0, hi = g_model.g_nNetCount - 1;
     while (lo <= hi) {

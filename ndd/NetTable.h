@@ -5,13 +5,12 @@
 #include <string>
 
 #include "base/TextFile.h"
+#include "ndd/NetColors.h"  // colours follow every reading of the table
 
 // Reads the net table from the stream's first line on, then the display names.
 void ParseNet(base::LineStream& stream);
 // Unique display names: names that differ only in case get "_1", "_2", ... appended.
 void BuildDisplayNetNames();
-// Colour index of net i becomes i mod 11, plus 1.
-void AssignNetColors();
 // Case-insensitive binary search; kNoNet when not found.
 int32_t NetIndexByName(const std::string& name);
 // True when no net selection is in force, or when the name (found case-sensitively) is

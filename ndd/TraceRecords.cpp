@@ -21,11 +21,6 @@ size_t NextTraceCapacity(size_t count) {
     return (wanted + kTraceBlock - 1) / kTraceBlock * kTraceBlock;
 }
 
-int32_t NetColor(int32_t net) {
-    if (net < 0 || static_cast<size_t>(net) >= g_model.g_nNetColor.size()) return 0;
-    return g_model.g_nNetColor[static_cast<size_t>(net)];
-}
-
 }  // namespace
 
 int GrowTraceArrays() {
@@ -55,7 +50,7 @@ int AddTraceRecord(double x1, double y1, double x2, double y2, double width, int
     if (trace.endNode == -1) return 0;
     trace.width = width;
     trace.layer = layer;
-    trace.color = NetColor(net);
+    trace.color = NetColorOf(net);
     g_model.g_aTraces.push_back(trace);
     g_model.g_aTraceNets.push_back(net);
     g_model.g_aTraceFlags.push_back(0);

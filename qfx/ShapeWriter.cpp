@@ -21,8 +21,7 @@ bool Droppable(const ShapeRec& s, int32_t undiscardable, double limit) {
 
 std::string ColorField(int32_t net) {
     if (!g_options.g_bColorShapesByNet || net == kNoNet || net == kNoNetAlt) return std::string();
-    if (net < 0 || net >= static_cast<int32_t>(g_model.g_nNetColor.size())) return std::string();
-    const char* name = NetColorName(g_model.g_nNetColor[static_cast<size_t>(net)]);
+    const char* name = NetColorName(NetColorOf(net));
     return name ? std::string("Color = ") + name : std::string();
 }
 

@@ -18,8 +18,7 @@ const std::string& NodeLabel(uint32_t id) {
 
 const char* ViaColor(int32_t net) {
     if (net == kNoNet || net == kNoNetAlt) return "red";
-    if (net < 0 || net >= static_cast<int32_t>(g_model.g_nNetColor.size())) return "red";
-    const char* name = NetColorName(g_model.g_nNetColor[static_cast<size_t>(net)]);
+    const char* name = NetColorName(NetColorOf(net));
     return name ? name : "red";
 }
 

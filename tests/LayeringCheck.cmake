@@ -4,7 +4,7 @@
 # One light header per folder; each line of EXPECTED names a library and the folders it sees.
 set(headers
   base/StringMap.h model/ViaOutRec.h geometry/EquivalentRadius.h ndd/Units.h qfx/OutputScale.h
-  ibis/PropertyNames.h app/CommandLine.h ui/UiTypes.h)
+  ibis/PropertyNames.h app/CommandLine.h ui/UiTypes.h dialogs/forms/ControlIds.h)
 set(EXPECTED
   "base: base"
   "model: base model"
@@ -13,17 +13,20 @@ set(EXPECTED
   "qfx: base model geometry ndd qfx"
   "ibis: base model geometry ndd ibis"
   "app: base model geometry ndd qfx ibis app"
-  "ui: base model ui")
+  "ui: base model ui"
+  "dialogs_forms: base model ui dialogs/forms")
 
 file(MAKE_DIRECTORY ${WORK})
 set(failures 0)
 foreach(row IN LISTS EXPECTED)
-  string(REGEX MATCH "^[a-z]+" library "${row}")
-  string(REGEX REPLACE "^[a-z]+: " "" seen "${row}")
+  # A folder inside another (dialogs/forms) has the library dialogs_forms.
+  string(REGEX MATCH "^[a-z_]+" library "${row}")
+  string(REGEX REPLACE "^[a-z_]+: " "" seen "${row}")
   separate_arguments(seen)
   foreach(header IN LISTS headers)
-    string(REGEX MATCH "^[a-z]+" folder "${header}")
-    set(probe ${WORK}/${library}_includes_${folder}.cpp)
+    get_filename_component(folder ${header} DIRECTORY)
+    string(REPLACE "/" "_" probe_name ${folder})
+    set(probe ${WORK}/${library}_includes_${probe_name}.cpp)
     file(WRITE ${probe} "#include \"${header}\"\n")
     execute_process(
       COMMAND ${COMPILER} -std=c++17 -fsyntax-only -I${ROOTS}/${library} ${probe}

@@ -34,7 +34,7 @@ TEST(TranslationLog, SelectedNetsAndValueSettings) {
     o.g_bAllNets = 0;
     o.g_bSelectedOnly = 1;
     o.g_pSelectedNets = {2, 0};
-    g_model.g_nNetColor = {9, 4, 0};
+    o.g_pNetColors = {9, 4, 0};
     o.g_bAllowSignalOnPlane = o.g_bAddPseudoPlane = o.g_bColorShapesByNet = 0;
     o.g_bTranslateLinkages = o.g_nTranslatePads = o.g_bAppendNetName = 0;
     o.g_nIncludeNoNetEtches = 1;

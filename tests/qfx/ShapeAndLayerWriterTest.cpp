@@ -34,7 +34,8 @@ void MakeNets(const std::vector<std::string>& names) {
         std::snprintf(rec.name, sizeof rec.name, "%s", n.c_str());
         g_model.g_strNetNames.push_back(rec);
         g_model.g_strDisplayNetNames.push_back(n);
-        g_model.g_nNetColor.push_back(static_cast<int32_t>(g_model.g_nNetColor.size() % 11 + 1));
+        g_options.g_pNetColors.push_back(
+            static_cast<int32_t>(g_options.g_pNetColors.size() % 11 + 1));
     }
     g_model.g_nNetCount = static_cast<int32_t>(names.size());
 }

@@ -19,7 +19,7 @@ class ViaWriterTest : public ::testing::Test {
             g_model.g_strDisplayNetNames.push_back(n);
         }
         g_model.g_nNetCount = 2;
-        g_model.g_nNetColor = {1, 2};
+        g_options.g_pNetColors = {1, 2};
         // Node 0 carries pin label "7"; node 1 has none.
         g_model.g_aNodes.resize(2);
         g_model.g_aNodes[0].id = 0;

@@ -1,0 +1,107 @@
+// Takes the pictures of the main window for the README: idle with a board named, in the middle
+// of a translation, and the About box. Run under Xvfb:
+//   xvfb-run -a build/tests/dialog_screenshots docs/images
+#include <QApplication>
+#include <QDialog>
+#include <QTabWidget>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "app/SettingsPage.h"
+#include "base/Platform.h"
+#include "dialogs/AboutDialog.h"
+#include "dialogs/Ndd2QfxDlg.h"
+#include "dialogs/Ndd2QfxSetting.h"
+#include "dialogs/forms/ControlIds.h"
+#include "dialogs/forms/Ndd2QfxResourceMgr.h"
+#include "model/ReportMessage.h"
+#include "model/TranslationOptions.h"
+#include "ui/MessageBox.h"
+#include "ui/QtResourceMgr.h"
+#include "ui/UiListCtrl.h"
+
+namespace {
+
+bool Save(QWidget* widget, const std::string& path) {
+    QApplication::processEvents();
+    bool saved = widget->grab().save(QString::fromStdString(path), "PNG");
+    std::printf("%s %s\n", saved ? "wrote" : "could not write", path.c_str());
+    return saved;
+}
+
+// The two pages of the Settings dialog over the example board, with two nets chosen.
+bool SaveSettingsPages(const std::string& folder, const std::string& work) {
+    CNdd2QfxDlg main;
+    main.Create(IDD_Ndd2Qfx_DIALOG);
+    main.SetDlgItemText(IDC_EDIT_INPUT, work + "/board.ndd");
+    main.SetDlgItemText(IDC_EDIT_OUTPUT, work + "/board.qfx");
+    g_options.g_strTraceFile = work + "/traces";
+    g_options.g_pSelectedNets = {0, 2};
+    g_options.g_nSelectedNetCount = 2;
+    g_options.g_bAllNets = 0;
+    bool ok = true;
+    // The Settings step reads the board, then opens the dialog; the pictures are taken in its
+    // modal run, which the last one ends.
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* settings = dynamic_cast<CNdd2QfxSetting*>(g_pModalDialog);
+        if (!settings || !settings->GetHandle()->isVisible()) return;
+        look.stop();
+        ok &= Save(settings->GetHandle(), folder + "/settings-options.png");
+        settings->TabControl()->setCurrentIndex(1);
+        ok &= Save(settings->GetHandle(), folder + "/settings-nets.png");
+        settings->OnCancel();
+    });
+    look.start(50);
+    main.OnProperty();
+    return ok;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: %s OUTPUT-FOLDER\n", argv[0]);
+        return 2;
+    }
+    std::string folder = base::AbsolutePath(argv[1]);
+    QApplication application(argc, argv);
+    CQtNdd2QfxResourceMgr resources;
+    RegisterResourceMgr(&resources);
+    std::string work = base::TempFolder() + "/ndd2qfx_screenshots";
+    base::ChangeFolder(base::TempFolder());
+    if (std::system(("rm -rf '" + work + "' && mkdir -p '" + work +
+                     "' && cp '" NDD2QFX_SOURCE_DIR "/examples/board.ndd' '" + work + "/'")
+                        .c_str()) != 0)
+        return 1;
+    bool ok = true;
+    {
+        // The traces question is answered No, as a quick translation would.
+        CMessageBoxAnswers answers({kAnswerNo});
+        CNdd2QfxDlg dialog;
+        dialog.Create(IDD_Ndd2Qfx_DIALOG);
+        dialog.SetDlgItemText(IDC_EDIT_INPUT, work + "/board.ndd");
+        dialog.SetDlgItemText(IDC_EDIT_OUTPUT, work + "/board.qfx");
+        dialog.GetHandle()->show();
+        ok &= Save(dialog.GetHandle(), folder + "/main-dialog.png");
+        bool taken = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (taken || dialog.GetDlgItemText(IDC_MSG) != "Writing Shape Info...") return;
+            taken = true;
+            ok &= Save(dialog.GetHandle(), folder + "/main-dialog-translating.png");
+        });
+        look.start(0);
+        dialog.OnOK();
+        ok &= taken;
+    }
+    ok &= SaveSettingsPages(folder, work);
+    auto about = MakeAboutDialog(nullptr);
+    about->show();
+    ok &= Save(about.get(), folder + "/about-dialog.png");
+    RegisterResourceMgr(nullptr);
+    return ok ? 0 : 1;
+}
