@@ -67,6 +67,15 @@ void WriteFile(const std::string& path, const std::string& text) {
     out << text;
 }
 
+std::string DataFile(const std::string& name) {
+    const std::string path = NDD2QFX_SOURCE_DIR "/tests/data/" + name;
+    std::ifstream in(path, std::ios::binary);
+    if (!in) ADD_FAILURE() << "no data file " << path;
+    std::stringstream ss;
+    ss << in.rdbuf();
+    return ss.str();
+}
+
 std::vector<std::string> SplitLines(const std::string& text) {
     std::vector<std::string> lines;
     std::string cur;

@@ -25,6 +25,8 @@ class ScratchDir {
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, const std::string& text);
 std::vector<std::string> SplitLines(const std::string& text);
+// The whole text of tests/data/NAME; a missing file fails the test.
+std::string DataFile(const std::string& name);
 
 // Options, model and trace back to their initial state; the benchmark trace off.
 void ResetGlobals();

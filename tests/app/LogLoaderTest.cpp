@@ -10,18 +10,9 @@ using namespace testing_support;
 
 namespace {
 
-const char kHead[] =
-    "Ndd2Qfx Version 1.0.0.1\n"
-    "From file : /nowhere/in.ndd\n"
-    "To file : /nowhere/out.qfx\n"
-    "Saturday  November 21  10:00:00  2026\n";
+const std::string kHead = testing_support::DataFile("app/LogLoader/head.log");
 
-const char kBoard[] =
-    "%length TN;\n"
-    "%port \"U1-1\" \"CLK\";\n"
-    "%port \"U1-2\" \"GND\";\n"
-    "%port \"U1-3\" \"VCC\";\n"
-    "%port \"U1-4\" \"DATA\";\n";
+const std::string kBoard = testing_support::DataFile("app/LogLoader/board.ndd");
 
 // Batch run with its reports captured.
 void StartBatchRun() {

@@ -12,18 +12,7 @@ using namespace testing_support;
 
 namespace {
 
-const char kBoard[] =
-    "%length TN;\n"
-    "%signal \"TOP\" \"1\" \"x\" 3500 \"COPPER\";\n"
-    "%dielectric \"D1\" \"x\" \"FR4\" 20000;\n"
-    "%power \"GND\" \"2\" \"x\" 3500 \"COPPER\";\n"
-    "%port \"U1-1\" \"CLK\";\n"
-    "%port \"U1-2\" \"GND\";\n"
-    "%port \"U1-3\" \"VCC\";\n"
-    "%port \"U1-4\" \"DATA\";\n"
-    "%trace \"TOP\" 23500 1524000 1016000 1571184 1063184 \"CLK\";\n"
-    "%trace \"TOP\" 23500 1571184 1063184 1600000 1063184 \"CLK\";\n"
-    "%trace \"TOP\" 10000 0 0 100000 0 \"DATA\";\n";
+const std::string kBoard = testing_support::DataFile("app/ModelReport/board.ndd");
 
 void StartBatchRun() {
     ResetGlobals();

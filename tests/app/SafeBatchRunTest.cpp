@@ -81,16 +81,4 @@ TEST(SafeBatchRun, AFullDiskFailsTheTranslation) {
               "Cannot write file : " + dir.File("big.qfx") + " (File too large)\n");
 }
 
-TEST(SafeBatchRun, EveryHelpFormPrintsTheUsage) {
-    for (const char* form : {"-h", "-HELP", "--help", "/?"}) {
-        ScratchDir dir;
-        EXPECT_EQ(RunShell(dir.Path(), std::string("$P a.ndd ") + form + " > usage.txt"), 0);
-        const std::string usage = ReadFile(dir.File("usage.txt"));
-        EXPECT_EQ(usage.substr(0, usage.find('\n') + 1),
-                  "Usage: ndd2qfx [options] board.ndd [board.qfx [gap-percent]]\n")
-            << form;
-        EXPECT_FALSE(std::ifstream(dir.File("a.qfx")).good());
-    }
-}
-
 }  // namespace

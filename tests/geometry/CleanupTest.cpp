@@ -35,58 +35,51 @@ void ExpectPoints(const std::vector<ShapePoint>& expected, int32_t shape) {
 const std::vector<ShapePoint> kKeyhole{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 5}, {3, 5}, {3, 7},
                                        {7, 7}, {7, 3},  {3, 3},   {3, 5},  {0, 5}, {0, 0}};
 
-TEST_F(Cleanup, KeyholeSlitBecomesTwoShapesWithTheHoleOfOppositePolarity) {
-    AddPolygon(0, kPolarityCopper, 1, kKeyhole);
-    CleanPolygon(0);
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[0].polarity);
-    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 5}, {0, 0}}, 0);
-    const ShapeRec& hole = g_model.g_aShapes[1];
-    EXPECT_EQ(kPolarityVoid, hole.polarity);
-    EXPECT_EQ(0, hole.layer);
-    EXPECT_EQ(1, hole.net);
-    EXPECT_EQ(kGeometryPolygon, hole.geometry);
-    ExpectPoints({{3, 7}, {7, 7}, {7, 3}, {3, 3}}, 1);
-}
-
-TEST_F(Cleanup, KeyholeOfAVoidGivesACopperIsland) {
-    AddPolygon(0, kPolarityVoid, 1, kKeyhole);
-    CleanPolygon(0);
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
+// CleanPolygon on one polygon: its points, and the shapes it leaves (see ShapesAsText).
+TEST_F(Cleanup, CleanPolygon) {
+    const struct {
+        const char* what;
+        int32_t polarity;
+        std::vector<ShapePoint> points;
+        const char* shapes;
+    } rows[] = {
+        {"a keyhole slit becomes two shapes, the hole of opposite polarity", kPolarityCopper,
+         kKeyhole, "L0 N1 P+ 10,0 10,10 0,10 0,5 0,0\nL0 N1 P- 3,7 7,7 7,3 3,3\n"},
+        {"the keyhole of a void gives a copper island", kPolarityVoid, kKeyhole,
+         "L0 N1 P- 10,0 10,10 0,10 0,5 0,0\nL0 N1 P+ 3,7 7,7 7,3 3,3\n"},
+        // The repeated closing point goes first: its neighbours are itself and the next point.
+        {"a collinear point is dropped below the tolerance",
+         kPolarityCopper,
+         {{0, 0}, {5, 0.00009}, {10, 0}, {10, 10}, {0, 10}, {0, 0}},
+         "L0 N1 P+ 10,0 10,10 0,10 0,0\n"},
+        {"and kept above it",
+         kPolarityCopper,
+         {{0, 0}, {5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}},
+         "L0 N1 P+ 5,0.00011 10,0 10,10 0,10 0,0\n"},
+        {"a rectangle loses its mid-edge point",
+         kPolarityCopper,
+         {{0, 0}, {0, 2}, {0, 4}, {3, 4}, {3, 0}},
+         "L0 N1 P+ 0,0 0,4 3,4 3,0\n"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        AddPolygon(0, row.polarity, 1, row.points);
+        CleanPolygon(0);
+        EXPECT_EQ(ShapesAsText(), row.shapes) << row.what;
+    }
 }
 
 TEST_F(Cleanup, RoundSortsTheHoleBeforeTheRingAndDropsTheSlitFoot) {
     AddPolygon(0, kPolarityCopper, 1, kKeyhole);
     RunShapeCleanupRound();
-    ASSERT_EQ(2, g_model.ShapeCount());
-    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[0].polarity);
+    EXPECT_EQ(ShapesAsText(), "L0 N1 P- 3,7 7,7 7,3 3,3\nL0 N1 P+ 10,0 10,10 0,10 0,0\n");
     EXPECT_EQ(16.0, g_model.g_aShapes[0].area);
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[1].polarity);
     EXPECT_EQ(100.0, g_model.g_aShapes[1].area);
-    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 0}}, 1);
     ASSERT_EQ(2u, g_model.g_aShapeBoxes.size());
     EXPECT_EQ(3.0, g_model.g_aShapeBoxes[0].minX);
     EXPECT_EQ(7.0, g_model.g_aShapeBoxes[0].maxY);
-    const LayerRec& top = g_model.g_aLayers[0];
-    EXPECT_EQ(10.0 * 0.00390625, top.gridX);
+    EXPECT_EQ(10.0 * 0.00390625, g_model.g_aLayers[0].gridX);
     EXPECT_EQ(0.0, g_model.g_aLayers[1].gridX);
-}
-
-TEST_F(Cleanup, CollinearPointIsDroppedBelowTheToleranceAndKeptAbove) {
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {5, 0.00009}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}});
-    CleanPolygon(0);
-    CleanPolygon(1);
-    // The repeated closing point goes first: its neighbours are itself and the next point.
-    ExpectPoints({{10, 0}, {10, 10}, {0, 10}, {0, 0}}, 0);
-    ExpectPoints({{5, 0.00011}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}, 1);
-}
-
-TEST_F(Cleanup, RectangleLosesItsMidEdgePoint) {
-    AddPolygon(0, kPolarityCopper, 1, {{0, 0}, {0, 2}, {0, 4}, {3, 4}, {3, 0}});
-    CleanPolygon(0);
-    ExpectPoints({{0, 0}, {0, 4}, {3, 4}, {3, 0}}, 0);
 }
 
 // Two shapes sharing an edge on one layer, after the edge separation (see ShapesAsText): copper
@@ -144,11 +137,10 @@ TEST_F(Cleanup, SortPutsCopperFirstOnEqualAreasWithinALayer) {
     AddPolygon(0, kPolarityVoid, 1, {{0, 0}, {4, 0}, {4, 4}, {0, 4}});
     AddPolygon(-1, kPolarityCopper, 1, {{0, 0}, {2, 0}, {2, 2}, {0, 2}});
     SortShapes();
-    EXPECT_EQ(-1, g_model.g_aShapes[0].layer);
-    EXPECT_EQ(0, g_model.g_aShapes[1].layer);
-    EXPECT_EQ(kPolarityCopper, g_model.g_aShapes[2].polarity);
+    EXPECT_EQ(ShapesAsText(),
+              "L-1 N1 P+ 0,0 2,0 2,2 0,2\nL0 N1 P- 0,0 4,0 4,4 0,4\n"
+              "L1 N1 P+ 5,5 6,5 6,6 5,6\nL1 N1 P- 0,0 1,0 1,1 0,1\n");
     EXPECT_EQ(5.0, g_model.g_aShapeBoxes[2].minX);
-    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[3].polarity);
     ShapeRun run = FindLayerShapeRun(1);
     EXPECT_EQ(2, run.first);
     EXPECT_EQ(4, run.end);

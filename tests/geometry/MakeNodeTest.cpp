@@ -78,26 +78,4 @@ TEST(MakeNode, TracesOffSignalLayersStopHoldingTheirNodes) {
     EXPECT_EQ(NodeById(u)->traceRefs, 0);
 }
 
-TEST(FlipMirroredBottomNodes, NegatesRotationOfMirroredPadNodesOnTheBottomConductor) {
-    ResetGlobals();
-    MakeLayerStack({{"TOP", kLayerSignal},
-                    {"D1", kLayerDielectric},
-                    {"BOT", kLayerSignal},
-                    {"D2", kLayerDielectric}});
-    PadStackRec pad;
-    const NodeRec* unmirrored = nullptr;
-    AddNode(nullptr, 0, 0, 2, 0, 1, &pad, 90.0);      // mirrored bottom pad: flipped
-    AddNode(nullptr, 0, 0, 0, 0, 1, &pad, 90.0);      // top
-    AddNode(&unmirrored, 1, 0, 2, 0, 1, &pad, 45.0);  // bottom, not mirrored
-    unmirrored->mirrored = 0;
-    AddNode(nullptr, 2, 0, 2, 0, 1, nullptr, 30.0);  // no padstack
-    RebuildNodeArray();
-    RebuildNodeIndex();
-    FlipMirroredBottomNodes();
-    EXPECT_EQ(NodeById(0)->rotation, -90.0);
-    EXPECT_EQ(NodeById(1)->rotation, 90.0);
-    EXPECT_EQ(NodeById(2)->rotation, 45.0);
-    EXPECT_EQ(NodeById(3)->rotation, 30.0);
-}
-
 }  // namespace

@@ -13,6 +13,15 @@ int32_t TraceEnd(double x, double y, int32_t layer, int32_t net = 0) {
     return AddNode(nullptr, x, y, layer, net, 1, nullptr, 0.0);
 }
 
+// A node as "#id Llayer x,y net contact traceRefs viaRefs".
+std::string Text(const NodeRec* n) {
+    if (!n) return "none";
+    char buf[96];
+    std::snprintf(buf, sizeof buf, "#%u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
+                  n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
+    return buf;
+}
+
 TEST(NodeSet, EndsWithinToleranceShareANodeAndFartherOnesDoNot) {
     ResetGlobals();
     EXPECT_EQ(TraceEnd(10.0, 0.0, 0), 0);
@@ -22,19 +31,15 @@ TEST(NodeSet, EndsWithinToleranceShareANodeAndFartherOnesDoNot) {
     EXPECT_EQ(TraceEnd(10.0, 7e-5, 0), 2);
     EXPECT_EQ(g_model.g_nNodeCount, 3u);
     EXPECT_EQ(g_model.g_setNodes.size(), 3u);
-    const NodeRec* node = FindNode(0, 10.0, 0.0);
-    ASSERT_NE(node, nullptr);
-    EXPECT_EQ(node->traceRefs, 3);
-    EXPECT_EQ(node->viaRefs, 0);
-    EXPECT_EQ(node->x, 10.0);  // the first end's position stands
-}
-
-TEST(NodeSet, SamePointOnTwoLayersGivesTwoNodes) {
-    ResetGlobals();
-    EXPECT_EQ(TraceEnd(1.0, 2.0, 0), 0);
-    EXPECT_EQ(TraceEnd(1.0, 2.0, 2), 1);
-    EXPECT_EQ(TraceEnd(1.0, 2.0, 2), 1);
-    EXPECT_EQ(g_model.g_setNodes.size(), 2u);
+    // The first end's position stands.
+    EXPECT_EQ(Text(FindNode(0, 10.0, 0.0)), "#0 L0 10,0 n0 c1 t3 v0");
+    // The same point on another layer is another node.
+    EXPECT_EQ(TraceEnd(10.0, 0.0, 2), 3);
+    EXPECT_EQ(TraceEnd(10.0, 0.0, 2), 3);
+    // FindNode uses the tolerance.
+    EXPECT_NE(FindNode(2, 10.00005, -0.00005), nullptr);
+    EXPECT_EQ(FindNode(2, 10.00007, 0.0), nullptr);
+    EXPECT_EQ(FindNode(1, 10.0, 0.0), nullptr);
 }
 
 TEST(NodeSet, ExistingNodeKeepsItsOwnNetContactPadstackAndRotation) {
@@ -45,48 +50,24 @@ TEST(NodeSet, ExistingNodeKeepsItsOwnNetContactPadstackAndRotation) {
     EXPECT_EQ(AddNode(&first, 1.0, 1.0, 0, 3, 1, nullptr, 0.0), 0);
     EXPECT_EQ(AddNode(&second, 1.00001, 1.0, 0, 4, 0, &pad, 45.0), 0);
     EXPECT_EQ(first, second);
-    EXPECT_EQ(second->net, 3);
-    EXPECT_EQ(second->contact, 1);
+    EXPECT_EQ(Text(second), "#0 L0 1,1 n3 c1 t2 v0");
     EXPECT_EQ(second->padStack, nullptr);
     EXPECT_EQ(second->rotation, 0.0);
-    EXPECT_EQ(second->traceRefs, 2);
 }
 
-TEST(NodeSet, ViaOnATraceEndTakesThatNodeAndItsNetOnlyWhenItHasNone) {
+TEST(NodeSet, ViaNodes) {
     ResetGlobals();
+    // On a trace end the via takes that node and its position, but not its net.
     EXPECT_EQ(TraceEnd(5.0, 5.0, 1, 7), 0);
-    const NodeRec* via = AddViaNode(5.00003, 5.0, 1, 9, 0, 1);
-    ASSERT_NE(via, nullptr);
-    EXPECT_EQ(via->id, 0u);
-    EXPECT_EQ(via->viaRefs, 1);
-    EXPECT_EQ(via->traceRefs, 2);
-    EXPECT_EQ(via->net, 7);  // the trace's net is not overwritten
-    EXPECT_EQ(via->x, 5.0);  // the node keeps the first end's position
-    EXPECT_EQ(via->contact, 1);
-
+    EXPECT_EQ(Text(AddViaNode(5.00003, 5.0, 1, 9, 0, 1)), "#0 L1 5,5 n7 c1 t2 v1");
+    // A node without net takes the via's.
     EXPECT_EQ(TraceEnd(8.0, 8.0, 1, kNoNet), 1);
-    via = AddViaNode(8.0, 8.0, 1, 9, 1, 1);
-    EXPECT_EQ(via->net, 9);  // a node without net takes the via's
-    EXPECT_EQ(via->viaRefs, 1);
-    EXPECT_EQ(via->traceRefs, 2);
-
-    via = AddViaNode(8.0, 8.0, 1, 4, 1, 0);  // no via reference: only a trace reference
-    EXPECT_EQ(via->viaRefs, 1);
-    EXPECT_EQ(via->traceRefs, 3);
-    EXPECT_EQ(via->net, 9);
-}
-
-TEST(NodeSet, NewViaNodeStoresContactAndViaReference) {
-    ResetGlobals();
+    EXPECT_EQ(Text(AddViaNode(8.0, 8.0, 1, 9, 1, 1)), "#1 L1 8,8 n9 c1 t2 v1");
+    // No via reference: only a trace reference.
+    EXPECT_EQ(Text(AddViaNode(8.0, 8.0, 1, 4, 1, 0)), "#1 L1 8,8 n9 c1 t3 v1");
+    // A new via node stores its contact and the via reference; the caller may change it.
     const NodeRec* via = AddViaNode(1.0, 1.0, 0, 2, 0, 1);
-    ASSERT_NE(via, nullptr);
-    EXPECT_EQ(via->id, 0u);
-    EXPECT_EQ(via->contact, 0);
-    EXPECT_EQ(via->viaRefs, 1);
-    EXPECT_EQ(via->traceRefs, 1);
-    EXPECT_EQ(via->net, 2);
-    EXPECT_EQ(g_model.g_nNodeCount, 1u);
-    // The caller may change the record in the set.
+    EXPECT_EQ(Text(via), "#2 L0 1,1 n2 c0 t1 v1");
     via->contact = 1;
     EXPECT_EQ(FindNode(0, 1.0, 1.0)->contact, 1);
 }
@@ -114,17 +95,14 @@ TEST(NodeSet, ArrayIsTheSetInKeyOrderWithBlockCapacity) {
     TraceEnd(1.0, 2.0, 1);  // id 2
     TraceEnd(9.0, 9.0, 0);  // id 3
     RebuildNodeArray();
-    ASSERT_EQ(g_model.g_aNodes.size(), 4u);
     EXPECT_EQ(g_model.g_aNodes.capacity(), 8192u);
     std::vector<uint32_t> ids;
     for (const NodeRec& node : g_model.g_aNodes) ids.push_back(node.id);
     EXPECT_EQ(ids, (std::vector<uint32_t>{3, 2, 1, 0}));
 
     RebuildNodeIndex();
-    ASSERT_EQ(g_model.g_aNodeIndex.size(), 4u);
     EXPECT_EQ(g_model.g_aNodeIndex, (std::vector<uint32_t>{3, 2, 1, 0}));
-    ASSERT_NE(NodeById(2), nullptr);
-    EXPECT_EQ(NodeById(2)->y, 2.0);
+    EXPECT_EQ(Text(NodeById(2)), "#2 L1 1,2 n0 c1 t1 v0");
     EXPECT_EQ(NodeById(4), nullptr);
     EXPECT_EQ(NodeById(-1), nullptr);
 
@@ -132,11 +110,9 @@ TEST(NodeSet, ArrayIsTheSetInKeyOrderWithBlockCapacity) {
     NodeById(2)->net = 42;
     RebuildNodeArray();
     EXPECT_EQ(g_model.g_aNodes[1].net, 0);
-}
 
-TEST(NodeSet, ArrayCapacityGrowsInWholeBlocks) {
-    ResetGlobals();
-    for (int i = 0; i < 8191; ++i) TraceEnd(i * 1.0, 0.0, 0);
+    // The capacity grows in whole blocks.
+    for (int i = 0; i < 8187; ++i) TraceEnd(100.0 + i, 0.0, 0);
     RebuildNodeArray();
     EXPECT_EQ(g_model.g_aNodes.capacity(), 8192u);
     TraceEnd(-1.0, 0.0, 0);
@@ -151,34 +127,17 @@ TEST(NodeSet, RangeWalkStaysOnItsLayerBetweenTheBounds) {
     for (int i = 0; i < 6; ++i) TraceEnd(i * 1.0, 0.0, 1);  // ids 0..5
     TraceEnd(2.0, 0.0, 0);                                  // id 6, another layer
     TraceEnd(2.0, 0.0, 2);                                  // id 7
-    std::vector<uint32_t> seen;
-    WalkNodeRange(1, 1.5, -1.0, 3.5, 1.0, [&](const NodeRec& node) {
-        seen.push_back(node.id);
-        return false;
-    });
-    EXPECT_EQ(seen, (std::vector<uint32_t>{2, 3}));
-
-    seen.clear();
-    WalkNodeRange(1, 0.5, -1.0, 9.0, 1.0, [&](const NodeRec& node) {
-        seen.push_back(node.id);
-        return node.id == 3;  // stop at the first hit
-    });
-    EXPECT_EQ(seen, (std::vector<uint32_t>{1, 2, 3}));
-
-    seen.clear();
-    WalkNodeRange(3, -9.0, -9.0, 9.0, 9.0, [&](const NodeRec& node) {
-        seen.push_back(node.id);
-        return false;
-    });
-    EXPECT_TRUE(seen.empty());
-}
-
-TEST(NodeSet, FindNodeUsesTheTolerance) {
-    ResetGlobals();
-    TraceEnd(4.0, 4.0, 2);
-    EXPECT_NE(FindNode(2, 4.00005, 3.99995), nullptr);
-    EXPECT_EQ(FindNode(2, 4.00007, 4.0), nullptr);
-    EXPECT_EQ(FindNode(1, 4.0, 4.0), nullptr);
+    auto walk = [](int32_t layer, double x0, double x1, uint32_t stopAt) {
+        std::vector<uint32_t> seen;
+        WalkNodeRange(layer, x0, -1.0, x1, 1.0, [&](const NodeRec& node) {
+            seen.push_back(node.id);
+            return node.id == stopAt;
+        });
+        return seen;
+    };
+    EXPECT_EQ(walk(1, 1.5, 3.5, 99), (std::vector<uint32_t>{2, 3}));
+    EXPECT_EQ(walk(1, 0.5, 9.0, 3), (std::vector<uint32_t>{1, 2, 3}));  // stops at a hit
+    EXPECT_TRUE(walk(3, -9.0, 9.0, 99).empty());
 }
 
 }  // namespace

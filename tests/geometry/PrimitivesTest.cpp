@@ -121,17 +121,6 @@ TEST_F(Primitives, SlantedSegmentRectangleSurroundsTheSegment) {
     EXPECT_NEAR(across(p[0]), across(p[1]), 1e-12);
 }
 
-TEST_F(Primitives, GapStrokeIsACircleAtTheEndThenARectangle) {
-    AddGapStroke(0, 0, 4, 0, 0.5, 0, 3);
-    ASSERT_EQ(2, g_model.ShapeCount());
-    const ShapeRec& c = g_model.g_aShapes[0];
-    EXPECT_EQ(kGeometryCircle, c.geometry);
-    EXPECT_EQ(kPolarityVoid, c.polarity);
-    EXPECT_EQ((std::vector<ShapePoint>{{4, 0}, {0.25, 0.25}}), PointsOf(0));
-    EXPECT_EQ((std::vector<ShapePoint>{{0, -0.25}, {0, 0.25}, {4, 0.25}, {4, -0.25}, {0, -0.25}}),
-              PointsOf(1));
-}
-
 TEST_F(Primitives, EdgesOverlapFindsSlitsButNotNeighbours) {
     // A keyhole: edge 3 runs (0,5)->(3,5), edge 9 back (3,5)->(0,5).
     std::vector<ShapePoint> p{{10, 0}, {10, 10}, {0, 10}, {0, 5}, {3, 5}, {3, 7},

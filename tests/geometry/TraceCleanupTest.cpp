@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -22,6 +23,7 @@
 namespace {
 
 using testing_support::CaptureOutput;
+using testing_support::DataFile;
 
 constexpr int32_t kClk = 0;
 constexpr int32_t kGnd = 1;
@@ -56,9 +58,17 @@ class TraceCleanupTest : public ::testing::Test {
     }
 
     static double Width(size_t t) { return g_model.g_aTraces[t].width; }
-    static int32_t Start(size_t t) { return g_model.g_aTraces[t].startNode; }
-    static int32_t End(size_t t) { return g_model.g_aTraces[t].endNode; }
-    static int Refs(int32_t id) { return NodeById(id)->traceRefs; }
+    // Each trace as "start-end", "x" before a deleted one; then each node's trace references.
+    static std::string State() {
+        std::string t;
+        for (const TraceRec& tr : g_model.g_aTraces)
+            t += (tr.width == kDeletedTraceWidth ? "x" : "") + std::to_string(tr.startNode) + "-" +
+                 std::to_string(tr.endNode) + " ";
+        t += "|";
+        for (size_t id = 0; id < g_model.g_aNodes.size(); ++id)
+            t += " " + std::to_string(NodeById(static_cast<int32_t>(id))->traceRefs);
+        return t;
+    }
 };
 
 TEST_F(TraceCleanupTest, DeletedWidthIsTheExactBitPattern) {
@@ -72,21 +82,12 @@ TEST_F(TraceCleanupTest, ZeroLengthTraceOnOneNodeIsKickedOutAndLeavesNoLine) {
     Trace(1, 1, 1, 1);  // trace 1: a loop on node 1
     Trace(1, 1, 3, 1);  // trace 2: node 1 to node 2
     LastRebuild();
-    EXPECT_EQ(Refs(1), 3);
+    EXPECT_EQ(State(), "0-0 1-1 1-2 | 2 3 1");
     KickOutTrivialTrace();
-    EXPECT_EQ(Width(0), kDeletedTraceWidth);
-    EXPECT_EQ(Width(1), kDeletedTraceWidth);
-    EXPECT_EQ(Width(2), 0.1);
-    EXPECT_EQ(Refs(0), 0);
-    EXPECT_EQ(Refs(1), 1);
-    EXPECT_EQ(g_model.g_aTraces.size(), 3u);  // the records stay
-    EXPECT_EQ(NodeAndTraceLines(),
-              "Node1::CLK X = 1.0000000000e+00mm Y = 1.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node2::CLK X = 3.0000000000e+00mm Y = 1.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Trace2::CLK StartingNode = Node1::CLK EndingNode = Node2::CLK Width = "
-              "1.000000e-01mm Color = red\n");
+    EXPECT_EQ(State(), "x0-0 x1-1 1-2 | 0 1 1");  // the records stay
+    EXPECT_EQ(
+        NodeAndTraceLines(),
+        DataFile("geometry/TraceCleanup/ZeroLengthTraceOnOneNodeIsKickedOutAndLeavesNoLine.txt"));
 }
 
 TEST_F(TraceCleanupTest, KickOutTakesDeletedLoopsAgainAndStopsReferencesAtZero) {
@@ -95,37 +96,61 @@ TEST_F(TraceCleanupTest, KickOutTakesDeletedLoopsAgainAndStopsReferencesAtZero) 
     g_model.g_aTraces[0].width = kDeletedTraceWidth;
     NodeById(0)->traceRefs = 1;
     KickOutTrivialTrace();
-    EXPECT_EQ(Refs(0), 0);
+    EXPECT_EQ(State(), "x0-0 | 0");
 }
 
-TEST_F(TraceCleanupTest, WithLimitZeroTheTinyTracePassIsSkipped) {
+// Each row: the traces (node numbers follow their ends), whether the end node of trace 0 is
+// held by a pin, the union length, and the state after the tiny-trace pass.
+TEST_F(TraceCleanupTest, TinyTraces) {
+    const struct {
+        const char* what;
+        std::vector<std::array<double, 4>> traces;
+        bool pinOnNode1;
+        double length;
+        const char* state;
+    } rows[] = {
+        {"with limit zero the pass is skipped",
+         {{1, 1, 1.01, 1}, {1.01, 1, 3, 1}},
+         false,
+         0.0,
+         "0-1 1-2 | 1 2 1"},
+        {"a merge moves the going node's traces to the staying node",
+         {{1, 1, 1.01, 1}, {1.01, 1, 3, 1}},
+         false,
+         0.2,
+         "x0-1 0-2 | 1 0 1"},
+        {"a held end stays and the free start goes",
+         {{1, 1, 1.01, 1}, {-2, 1, 1, 1}},
+         true,
+         0.2,
+         "x0-1 2-1 | 0 1 1"},
+        // (3 - 3)² + (3 - 3)² measures 0 although the trace is 3 long; 0.3 exceeds 0.5².
+        {"the measure mixes the coordinates and meets the squared limit",
+         {{3, 0, 3, 3}, {10, 0, 10.3, 0}},
+         false,
+         0.5,
+         "x0-1 2-3 | 0 0 1 1"},
+    };
+    for (const auto& row : rows) {
+        SetUp();
+        for (const auto& t : row.traces) Trace(t[0], t[1], t[2], t[3]);
+        LastRebuild();
+        if (row.pinOnNode1) NodeById(1)->label = "U1-1";
+        UnionLength(row.length);
+        ClearTinyTraces();
+        EXPECT_EQ(State(), row.state) << row.what;
+    }
+    EXPECT_EQ(Width(1), 0.1);
+}
+
+TEST_F(TraceCleanupTest, MergedNodesPrintTheStayingNode) {
     Trace(1, 1, 1.01, 1);
     Trace(1.01, 1, 3, 1);
     LastRebuild();
-    UnionLength(0.0);
-    ClearTinyTraces();
-    EXPECT_EQ(Width(0), 0.1);
-    EXPECT_EQ(Start(1), 1);
-    EXPECT_EQ(Refs(1), 2);
-}
-
-TEST_F(TraceCleanupTest, MergeMovesTheGoingNodesTracesToTheStayingNode) {
-    Trace(1, 1, 1.01, 1);  // tiny: node 0 to node 1
-    Trace(1.01, 1, 3, 1);  // node 1 to node 2
-    LastRebuild();
     UnionLength(0.2);
     ClearTinyTraces();
-    EXPECT_EQ(Width(0), kDeletedTraceWidth);
-    EXPECT_EQ(Start(1), 0);
-    EXPECT_EQ(Refs(0), 1);
-    EXPECT_EQ(Refs(1), 0);
     EXPECT_EQ(NodeAndTraceLines(),
-              "Node0::CLK X = 1.0000000000e+00mm Y = 1.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node2::CLK X = 3.0000000000e+00mm Y = 1.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Trace1::CLK StartingNode = Node0::CLK EndingNode = Node2::CLK Width = "
-              "1.000000e-01mm Color = red\n");
+              DataFile("geometry/TraceCleanup/MergedNodesPrintTheStayingNode.txt"));
 }
 
 TEST_F(TraceCleanupTest, TraceBetweenTwoViasIsNeverMerged) {
@@ -135,33 +160,7 @@ TEST_F(TraceCleanupTest, TraceBetweenTwoViasIsNeverMerged) {
     LastRebuild();
     UnionLength(1.0);
     ClearTinyTraces();
-    EXPECT_EQ(Width(0), 0.1);
-    EXPECT_EQ(Refs(0), 2);
-    EXPECT_EQ(Refs(1), 2);
-}
-
-TEST_F(TraceCleanupTest, HeldEndStaysAndTheFreeStartGoes) {
-    Trace(1, 1, 1.01, 1);  // node 0 (free) to node 1
-    Trace(-2, 1, 1, 1);    // node 2 to node 0
-    LastRebuild();
-    NodeById(1)->label = "U1-1";  // a pin holds node 1
-    UnionLength(0.2);
-    ClearTinyTraces();
-    EXPECT_EQ(Width(0), kDeletedTraceWidth);
-    EXPECT_EQ(Start(1), 2);
-    EXPECT_EQ(End(1), 1);
-    EXPECT_EQ(Refs(0), 0);
-    EXPECT_EQ(Refs(1), 1);
-}
-
-TEST_F(TraceCleanupTest, MeasureMixesTheCoordinatesAndMeetsTheSquaredLimit) {
-    Trace(3, 0, 3, 3);      // 3 mm long, but (3 - 3)² + (3 - 3)² measures 0
-    Trace(10, 0, 10.3, 0);  // 0.3 mm: the measure 0.3 exceeds the limit 0.5² = 0.25
-    LastRebuild();
-    UnionLength(0.5);
-    ClearTinyTraces();
-    EXPECT_EQ(Width(0), kDeletedTraceWidth);
-    EXPECT_EQ(Width(1), 0.1);
+    EXPECT_EQ(State(), "0-1 | 2 2");
 }
 
 TEST_F(TraceCleanupTest, FlaggedTracesAreLeftButAMergedLoopGoesInTheLastWalk) {
@@ -171,11 +170,8 @@ TEST_F(TraceCleanupTest, FlaggedTracesAreLeftButAMergedLoopGoesInTheLastWalk) {
     g_model.g_aTraceFlags[0] = 1;
     UnionLength(0.2);
     ClearTinyTraces();
-    EXPECT_EQ(Width(1), kDeletedTraceWidth);
-    EXPECT_EQ(End(0), 0);                     // turned into a loop on node 0 ...
-    EXPECT_EQ(Width(0), kDeletedTraceWidth);  // ... and deleted by the last walk
-    EXPECT_EQ(Refs(0), 0);
-    EXPECT_EQ(Refs(1), 0);
+    // Trace 0 turned into a loop on node 0, and was deleted by the last walk.
+    EXPECT_EQ(State(), "x0-0 x0-1 | 0 0");
 }
 
 TEST_F(TraceCleanupTest, NoTracesOrNoNodesDoNothing) {
@@ -185,21 +181,8 @@ TEST_F(TraceCleanupTest, NoTracesOrNoNodesDoNothing) {
     EXPECT_TRUE(g_model.g_aTraces.empty());
 }
 
-class TraceGapTest : public TraceCleanupTest {
-  protected:
-    static void Square(double x0, double y0, double x1, double y1, int32_t net, int32_t polarity) {
-        ShapeRec shape;
-        shape.layer = 0;
-        shape.net = net;
-        shape.polarity = polarity;
-        AppendShape(shape, {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}, {x0, y0}});
-    }
-    static std::vector<ShapePoint> Points(size_t i) {
-        const ShapeRec& s = g_model.g_aShapes[i];
-        auto first = g_model.g_aShapePoints.begin() + s.firstPoint;
-        return std::vector<ShapePoint>(first, first + s.pointCount);
-    }
-};
+using TraceGapTest = TraceCleanupTest;
+using fixtures::PointsOf;
 
 TEST_F(TraceGapTest, TwentyPercentOnATenthMillimetreGivesAGapOfFourteenHundredths) {
     Trace(1, 1, 2, 1);
@@ -216,7 +199,7 @@ TEST_F(TraceGapTest, TwentyPercentOnATenthMillimetreGivesAGapOfFourteenHundredth
     const double width = (2 * 20.0 + 100) * 0.1 / 100;
     EXPECT_NEAR(width, 0.14, 1e-15);
     const double h = width / 2;  // 0.07 to each side and past each end
-    std::vector<ShapePoint> p = Points(0);
+    std::vector<ShapePoint> p = PointsOf(0);
     ASSERT_EQ(p.size(), 5u);
     const double xs[] = {1 - h, 1 - h, 2 + h, 2 + h, 1 - h};
     const double ys[] = {1 - h, 1 + h, 1 + h, 1 - h, 1 - h};
@@ -227,10 +210,11 @@ TEST_F(TraceGapTest, TwentyPercentOnATenthMillimetreGivesAGapOfFourteenHundredth
 }
 
 TEST_F(TraceGapTest, EndInOwnCopperNeedsNoGapOtherNetsAndVoidsDo) {
-    Square(0, 0, 1.5, 2, kClk, kPolarityCopper);        // holds the start of trace 0
-    Square(9, 0, 11, 2, kGnd, kPolarityCopper);         // holds the start of trace 1
-    Square(19, 0, 21, 2, kClk, kPolarityCopper);        // a CLK fill ...
-    Square(19.5, 0.5, 20.5, 1.5, kGnd, kPolarityVoid);  // ... with a void at trace 2's start
+    fixtures::AddSquare(0, kPolarityCopper, kClk, 0, 0, 2);   // holds the start of trace 0
+    fixtures::AddSquare(0, kPolarityCopper, kGnd, 9, 0, 2);   // holds the start of trace 1
+    fixtures::AddSquare(0, kPolarityCopper, kClk, 19, 0, 2);  // a CLK fill ...
+    fixtures::AddSquare(0, kPolarityVoid, kGnd, 19.5, 0.5,
+                        1);  // ... with a void at trace 2's start
     SortShapes();
     Trace(1, 1, 5, 1);
     Trace(10, 1, 15, 1);
@@ -242,8 +226,8 @@ TEST_F(TraceGapTest, EndInOwnCopperNeedsNoGapOtherNetsAndVoidsDo) {
     EXPECT_EQ(g_model.g_aTraces[1].gap, 1);
     EXPECT_EQ(g_model.g_aTraces[2].gap, 1);
     ASSERT_EQ(g_model.g_aShapes.size(), 6u);
-    EXPECT_EQ(Points(4)[0].x, 10 - 0.1);  // width 0.2, from trace 1's start
-    EXPECT_EQ(Points(5)[0].x, 20 - 0.1);
+    EXPECT_EQ(PointsOf(4)[0].x, 10 - 0.1);  // width 0.2, from trace 1's start
+    EXPECT_EQ(PointsOf(5)[0].x, 20 - 0.1);
 }
 
 TEST_F(TraceGapTest, EmptyOrZeroPercentAndDeletedTracesMakeNoGap) {

@@ -31,12 +31,7 @@ class HkpReaderTest : public ::testing::Test {
     ScratchDir dir_;
 };
 
-const char kRectArea[] =
-    " ..CONDUCTIVE_AREA\n"
-    "  ...ROUTE_LYR LYR_1\n"
-    "  ...CONDUCTIVE_AREA_OPTIONS CONDUCTIVE_SHAPE\n"
-    "   ....RECT_SHAPE\n"
-    "    .....XY (1, 2) (3, 4)\n";
+const std::string kRectArea = testing_support::DataFile("ndd/HkpReader/rect_area.hkp");
 
 // Areas of layout.hkp as read: the file's text and the shapes it gives (see ShapesAsText).
 // Nets GND 0, VCC 1; layer_1 is layer 0, layer_2 layer 2; every area is undiscardable copper.

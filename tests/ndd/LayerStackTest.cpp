@@ -32,26 +32,7 @@ class LayerStackTest : public ::testing::Test {
     HostScope hostScope_{host_};
 };
 
-const char kStack[] =
-    "# Default Units section.\n"
-    "%length TN;\n"
-    "%power mW;\n"
-    "# Materials section.\n"
-    "%dielectric_material \"FR4\" 4.3;\n"
-    "%conductor_material \"CU\" %resistivity 0.5;\n"
-    "%conductor_material \"AL\" %conductivity 37000000.9;\n"
-    "%conductor_material \"THIN\" %resistivity 4;\n"
-    "%signal \"TOP\" \"1\" \"x\" 3500 \"CU\";\n"
-    "%dielectric \"D\" \"x\" \"FR4\" 20000;\n"
-    "%power \"mW_PLANE\" \"9\" \"x\" 3500 \"CU\";\n"
-    "%power \"GND\" \"2\" \"x\" 1800 \"AL\";\n"
-    "%dielectric \"D\" \"x\" \"air\" 10000;\n"
-    "%signal \"TOP\" \"7\" \"x\" 100 \"CU\";\n"
-    "%power \"PWR\" \"3\" \"x\" 1800 \"THIN\";\n"
-    "%dielectric \"D3\" \"x\" \"UNKNOWN\" 5000;\n"
-    "%signal \"BOT\" \"4\" \"x\" 3500 \"NOPE\";\n"
-    "%board_outline\n"
-    "%signal \"LATE\" \"5\" \"x\" 3500 \"CU\";\n";
+const std::string kStack = testing_support::DataFile("ndd/LayerStack/stack.ndd");
 
 // The layer lines themselves are checked through whole runs (tests/data/cases/layer_*); here
 // the lookups that later passes use.

@@ -19,22 +19,9 @@ namespace {
 constexpr double kTwoPi = 6.283185307179586;
 
 // TOP, D1, GND, D2, BOT in TN units (1e-5 mm).
-const char kStack[] =
-    "%signal \"TOP\" \"1\" \"x\" 3500 \"CU\";\n"
-    "%dielectric \"D1\" \"x\" \"FR4\" 20000;\n"
-    "%power \"GND\" \"2\" \"x\" 3500 \"CU\";\n"
-    "%dielectric \"D2\" \"x\" \"FR4\" 20000;\n"
-    "%signal \"BOT\" \"3\" \"x\" 3500 \"CU\";\n"
-    "%board_outline\n";
+const std::string kStack = testing_support::DataFile("ndd/PadStackSizes/stack.ndd");
 
-const char kPads[] =
-    "%paddef \"C\"\n%begin_boundary\n%outline\n%circle 100 200 50000;\n%end_boundary\n"
-    "%end_paddef;\n"
-    "%paddef \"R\"\n%begin_boundary\n%cutout\n%rectangle 0 0 40000 20000;\n%end_boundary\n"
-    "%end_paddef;\n"
-    "%paddef \"P\"\n%begin_boundary\n%outline\n%polygon 0 0 30000 0\n30000 40000\n"
-    "%end_boundary\n%end_paddef;\n"
-    "%paddef \"EMPTY\"\n%begin_boundary\n%outline\n%end_boundary\n%end_paddef;\n";
+const std::string kPads = testing_support::DataFile("ndd/PadStackSizes/pads.ndd");
 
 class PadStackSizesTest : public ::testing::Test {
   protected:
@@ -212,10 +199,7 @@ TEST_F(PadStackSizesTest, BuriedPadstacksTakeTheirViaRuleOrTellTheLog) {
     EXPECT_EQ(Size("B3")->nViaRule, 0);
     EXPECT_EQ(Size("B4")->nViaRule, 0);
     EXPECT_EQ(ReadStream(g_options.g_pLogFile),
-              "[PAD_STK1] The PadStack(Buried) , B3's ,does not have Via rule to find out Start "
-              "and End layers \n"
-              "[PAD_STK2] The PadStack(Buried) , B4's ,does not have Via rule to find out Start "
-              "and End layers \n");
+              DataFile("ndd/PadStackSizes/BuriedPadstacksTakeTheirViaRuleOrTellTheLog.txt"));
 }
 
 TEST_F(PadStackSizesTest, RecordsCutOffByTheEndOfTheFileEndCleanly) {

@@ -15,11 +15,7 @@ using namespace fixtures;
 
 namespace {
 
-const char kHead[] =
-    "%board_outline\n"
-    "%rectangle 0 0 100 50;\n"
-    "%port \"U1-1\" \"GND\";\n"
-    "%port \"U1-2\" \"VCC\";\n";
+const std::string kHead = testing_support::DataFile("ndd/ShapeRecords/head.ndd");
 
 class ShapeRecords : public ::testing::Test {
   protected:
@@ -154,6 +150,7 @@ TEST_F(ShapeRecords, GapStrokesFollowPolygonsOnPlaneLayersOnly) {
     // Three edges on GND, each a circle and a rectangle.
     ASSERT_EQ(3 + 6, g_model.ShapeCount());
     EXPECT_EQ(kGeometryCircle, g_model.g_aShapes[3].geometry);
+    EXPECT_EQ(kPolarityVoid, g_model.g_aShapes[3].polarity);  // a gap, at the edge's end
     EXPECT_EQ((std::vector<ShapePoint>{{4, 0}, {0.1, 0.1}}), PointsOf(3));
     EXPECT_EQ((std::vector<ShapePoint>{{0, -0.1}, {0, 0.1}, {4, 0.1}, {4, -0.1}, {0, -0.1}}),
               PointsOf(4));

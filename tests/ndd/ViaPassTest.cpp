@@ -18,19 +18,7 @@ using namespace testing_support;
 namespace {
 
 // TOP, D1, GND, D2, BOT in TN units; nets N1 and N2.
-const char kBoard[] =
-    "%signal \"TOP\" \"1\" \"x\" 3500 \"CU\";\n"
-    "%dielectric \"D1\" \"x\" \"FR4\" 20000;\n"
-    "%power \"GND\" \"2\" \"x\" 3500 \"CU\";\n"
-    "%dielectric \"D2\" \"x\" \"FR4\" 20000;\n"
-    "%signal \"BOT\" \"3\" \"x\" 3500 \"CU\";\n"
-    "%board_outline\n"
-    "%port \"U1-1\" \"N1\";\n"
-    "%port \"U1-2\" \"N2\";\n"
-    "%padstackdef \"V1\"\n%drill 20000;\n%end_padstackdef\n"
-    "%padstackdef \"V 2\"\n%liblayer \"TOP\"\n%end_padstackdef\n"
-    "%padstackdef \"VNULL\"\n%end_padstackdef\n"
-    "%padstackdef \"V3\"\n%drill 40000;\n%circle 0 0 10000;\n%end_padstackdef\n";
+const std::string kBoard = testing_support::DataFile("ndd/ViaPass/board.ndd");
 
 class ViaPassTest : public ::testing::Test {
   protected:

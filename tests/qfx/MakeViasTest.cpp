@@ -72,13 +72,7 @@ TEST_F(MakeViasTest, StretchesAreNumberedOverTheWholeTable) {
     AddVia(8, 8, kNoNet);
     g_options.g_nIncludeNoNetEtches = 1;
     g_options.g_strNameAffix = "X_";
-    EXPECT_EQ(Make(),
-              "ViaX_1::N1 UpperNode = NodeX_2::N1 LowerNode = NodeX_0::N1 Color = green "
-              "PadStack = X_VIA1 AbsoluteRotation = 0.000000\n"
-              "ViaX_2::N1 UpperNode = NodeX_0::N1 LowerNode = NodeX_3::N1 Color = green "
-              "PadStack = X_VIA1 AbsoluteRotation = 0.000000\n"
-              "ViaX_3 UpperNode = NodeX_4 LowerNode = NodeX_5 Color = red PadStack = X_VIA1 "
-              "AbsoluteRotation = 0.000000\n");
+    EXPECT_EQ(Make(), DataFile("qfx/MakeVias/StretchesAreNumberedOverTheWholeTable.txt"));
 }
 
 TEST_F(MakeViasTest, ATraceEndOnThePadConnectsThroughANewNodeAtTheCentre) {
@@ -93,10 +87,7 @@ TEST_F(MakeViasTest, ATraceEndOnThePadConnectsThroughANewNodeAtTheCentre) {
     AddVia(1, 1, n1);
     g_model.g_aVias[0].rotation = 30;
     EXPECT_EQ(Make(),
-              "Via1::N1 UpperNode = Node4::N1 LowerNode = Node5::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 30.000000\n"
-              "Via2::N1 UpperNode = Node5::N1 LowerNode = Node6::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 30.000000\n");
+              DataFile("qfx/MakeVias/ATraceEndOnThePadConnectsThroughANewNodeAtTheCentre.txt"));
     const NodeRec* pad = Node(4, 1, 1);
     ASSERT_NE(pad, nullptr);
     EXPECT_EQ(pad->padStack, &stack);
@@ -155,11 +146,7 @@ TEST_F(MakeViasVoidTest, ASmallVoidOnAMiddleLayerIsDiscarded) {
     EXPECT_EQ(Log(), "");
     // The shape section has the fill only.
     EXPECT_EQ(CaptureOutput([](FILE* f) { WriteShapes(f); }),
-              ".Shape Shape$L2 Color = green\n"
-              "Box1::GND+ Color = red 0.000000e+00mm 0.000000e+00mm 1.000000e+01mm "
-              "1.000000e+01mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+              DataFile("qfx/MakeVias/ASmallVoidOnAMiddleLayerIsDiscarded.txt"));
 }
 
 TEST_F(MakeViasVoidTest, WithTheOptionOffTheVoidStays) {
@@ -208,12 +195,9 @@ TEST_F(MakeViasVoidTest, AVoidOfAreaEqualToTheLimitStaysForTheViaButNotForTheSha
     EXPECT_EQ(Void().discarded, 0);
     // The shape writer drops a void whose area equals its own limit.
     g_options.g_dbVoidAreaLimit = 1;
-    EXPECT_EQ(CaptureOutput([](FILE* f) { WriteShapes(f); }),
-              ".Shape Shape$L2 Color = green\n"
-              "Box1::GND+ Color = red 0.000000e+00mm 0.000000e+00mm 1.000000e+01mm "
-              "1.000000e+01mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+    EXPECT_EQ(
+        CaptureOutput([](FILE* f) { WriteShapes(f); }),
+        DataFile("qfx/MakeVias/AVoidOfAreaEqualToTheLimitStaysForTheViaButNotForTheShapes.txt"));
     g_options.g_dbVoidAreaLimit = 0.999;
     EXPECT_NE(CaptureOutput([](FILE* f) {
                   WriteShapes(f);
@@ -233,11 +217,7 @@ TEST_F(MakeViasTest, CopperOfTheViasNetOnAMiddleLayerConnects) {
     AddSquare(2, kPolarityCopper, gnd, 0, 0, 4);  // foreign fill, passed over
     AddSquare(2, kPolarityCopper, n1, 0, 0, 10);
     AddVia(1, 1, n1);
-    EXPECT_EQ(Make(),
-              "Via1::N1 UpperNode = Node0::N1 LowerNode = Node1::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 0.000000\n"
-              "Via2::N1 UpperNode = Node1::N1 LowerNode = Node2::N1 Color = green PadStack = VIA1 "
-              "AbsoluteRotation = 0.000000\n");
+    EXPECT_EQ(Make(), DataFile("qfx/MakeVias/CopperOfTheViasNetOnAMiddleLayerConnects.txt"));
 }
 
 TEST_F(MakeViasTest, WithAGapAroundFillsAForeignFillGivesTheLayerUp) {

@@ -45,13 +45,7 @@ TEST(WriteNodes, TracesOffSignalLayersLeaveNoLines) {
     // A via on the plane keeps node 3 alive: a plane node prints with "Plane".
     AddViaNode(1.0, 0.0, 2, 0, 0, 1);
     SettleNodes();
-    EXPECT_EQ(Nodes(),
-              "Node0::CLK X = 0.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node1::CLK X = 1.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP "
-              "Contact = 1\n"
-              "Node3::CLK X = 1.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Plane$GND "
-              "Contact = 1\n");
+    EXPECT_EQ(Nodes(), DataFile("qfx/NodeTraceWriter/TracesOffSignalLayersLeaveNoLines.txt"));
     EXPECT_EQ(Traces(),
               "Trace0::CLK StartingNode = Node0::CLK EndingNode = Node1::CLK Width = "
               "1.000000e-01mm Color = red\n");
@@ -98,13 +92,7 @@ TEST(WriteNodes, NodesWithoutNetPrintOnlyWithNoNetEtches) {
               "Node2 X = 2.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP Contact = "
               "1\n");
     g_options.g_nIncludeNoNetEtches = 1;
-    EXPECT_EQ(Nodes(),
-              "Node0 X = 0.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP Contact = "
-              "1\n"
-              "Node1 X = 1.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP Contact = "
-              "1\n"
-              "Node2 X = 2.0000000000e+00mm Y = 0.0000000000e+00mm Layer = Signal$TOP Contact = "
-              "1\n");
+    EXPECT_EQ(Nodes(), DataFile("qfx/NodeTraceWriter/NodesWithoutNetPrintOnlyWithNoNetEtches.txt"));
 }
 
 TEST(WriteNodes, NodesOnOtherLayersPrintAsMedium) {
@@ -114,10 +102,7 @@ TEST(WriteNodes, NodesOnOtherLayersPrintAsMedium) {
     AddViaNode(0.5, 0.25, -1, kNoNet, 0, 1);
     g_options.g_nIncludeNoNetEtches = 1;
     SettleNodes();
-    EXPECT_EQ(Nodes(),
-              "Node1 X = 5.0000000000e-01mm Y = 2.5000000000e-01mm Layer = Medium$ Contact = 0\n"
-              "Node0 X = 5.0000000000e-01mm Y = 2.5000000000e-01mm Layer = Medium$D1 Contact = "
-              "1\n");
+    EXPECT_EQ(Nodes(), DataFile("qfx/NodeTraceWriter/NodesOnOtherLayersPrintAsMedium.txt"));
 }
 
 TEST(WriteNodes, PadstacksWithoutDrillTakeTheirViasDrillRadius) {
@@ -186,11 +171,9 @@ TEST(WriteTraces, CountersKeepTheirGapsAndNodeSuffixesComeFromTheNodes) {
               "2.500000e-01mm Color = red\n");
     g_options.g_nIncludeNoNetEtches = 1;
     g_options.g_bAppendNetName = 0;
-    EXPECT_EQ(Traces(),
-              "TraceA_12 StartingNode = NodeA_4 EndingNode = NodeA_0 Width = 2.500000e-01mm "
-              "Color = red\n"
-              "TraceA_13 StartingNode = NodeA_1 EndingNode = NodeA_2!!U1-3 Width = "
-              "2.500000e-01mm\n");
+    EXPECT_EQ(
+        Traces(),
+        DataFile("qfx/NodeTraceWriter/CountersKeepTheirGapsAndNodeSuffixesComeFromTheNodes.txt"));
 }
 
 TEST(WriteTraces, EmptyTableAndOffSignalTracesPrintNothing) {

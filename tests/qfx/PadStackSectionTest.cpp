@@ -66,17 +66,11 @@ TEST_F(PadStackSectionTest, DsdsdStackMirrorsTheTwoSignalLayersIntoEachOther) {
     AddStack("P", -1.0,
              {Entry("top", Pad("CIRCLE", 0.5, 0.5)), Entry("BOT", Pad("RECT", 0.6, 0.4))});
     EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n"
-              ".PadStackDef P\n\n"
-              ".PadDef Signal$TOP\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nRegular Box 6.000000e-01mm 4.000000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+              DataFile("qfx/PadStackSection/DsdsdStackMirrorsTheTwoSignalLayersIntoEachOther.txt"));
     // Last entry first: BOT (index 3) lands on 5 - 3 - 0 - 1 = 1, TOP (1) on 3.
-    EXPECT_EQ(Mirrored(),
-              ".PadStackDef P_Mirrd\n\n"
-              ".PadDef Signal$TOP\nRegular Box 6.000000e-01mm 4.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+    EXPECT_EQ(
+        Mirrored(),
+        DataFile("qfx/PadStackSection/DsdsdStackMirrorsTheTwoSignalLayersIntoEachOther.2.txt"));
 }
 
 TEST_F(PadStackSectionTest, OneMoreTrailingDielectricShiftsTheMirrorUpByOne) {
@@ -85,9 +79,7 @@ TEST_F(PadStackSectionTest, OneMoreTrailingDielectricShiftsTheMirrorUpByOne) {
     Library();
     // 4 - 0 - (1 - 0) - 1 = 2.
     EXPECT_EQ(Mirrored(),
-              ".PadStackDef P_Mirrd\n\n"
-              ".PadDef Signal$BOT\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+              DataFile("qfx/PadStackSection/OneMoreTrailingDielectricShiftsTheMirrorUpByOne.txt"));
 }
 
 TEST_F(PadStackSectionTest, PlaneAntiPadMirroredOntoASignalLayerBecomesARegularPad) {
@@ -95,36 +87,28 @@ TEST_F(PadStackSectionTest, PlaneAntiPadMirroredOntoASignalLayerBecomesARegularP
     AddStack(
         "V", -1.0,
         {Entry("GND", nullptr, Pad("CIRCLE", 0.8, 0.8)), Entry("BOT", Pad("CIRCLE", 0.5, 0.5))});
-    EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n.PadStackDef V\n\n"
-              ".PadDef Plane$GND\nAnti Circle 4.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+    EXPECT_EQ(
+        Library(),
+        DataFile("qfx/PadStackSection/PlaneAntiPadMirroredOntoASignalLayerBecomesARegularPad.txt"));
     // BOT's regular pad lands on the plane as an anti pad, GND's anti pad on BOT as a regular.
-    EXPECT_EQ(Mirrored(),
-              ".PadStackDef V_Mirrd\n\n"
-              ".PadDef Plane$GND\nAnti Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nRegular Circle 4.000000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+    EXPECT_EQ(
+        Mirrored(),
+        DataFile(
+            "qfx/PadStackSection/PlaneAntiPadMirroredOntoASignalLayerBecomesARegularPad.2.txt"));
     // The exchange stays in the records, so the second writing shows it in the plain
     // definition too; the renamed layers are left as they are.
-    EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n.PadStackDef V\n\n"
-              ".PadDef Plane$GND\nRegular Circle 4.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nAnti Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+    EXPECT_EQ(
+        Library(),
+        DataFile(
+            "qfx/PadStackSection/PlaneAntiPadMirroredOntoASignalLayerBecomesARegularPad.3.txt"));
 }
 
 TEST_F(PadStackSectionTest, DrillHeadForms) {
     fixtures::MakeLayerStack({{"TOP", S}});
     AddStack("V", 0.3, {});
-    EXPECT_EQ(
-        Library(),
-        "\n*PadStack Library Section\n\n.PadStackDef V 3.000000e-01mm\n\n.EndPadStackDef\n\n");
+    EXPECT_EQ(Library(), DataFile("qfx/PadStackSection/DrillHeadForms.txt"));
     g_options.g_dbDrillClearance = 5 * 0.0254;  // -drill 5
-    EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n"
-              ".PadStackDef V 4.270000e-01mm 3.000000e-01mm\n\n.EndPadStackDef\n\n");
+    EXPECT_EQ(Library(), DataFile("qfx/PadStackSection/DrillHeadForms.2.txt"));
     for (double drill : {0.0, 1e-6, 999999.0, 1000000.0, -1.0}) {
         g_model.g_padStacks.Find("V")->drill = drill;
         EXPECT_EQ(Library(), "\n*PadStack Library Section\n\n.PadStackDef V\n\n.EndPadStackDef\n\n")
@@ -139,9 +123,7 @@ TEST_F(PadStackSectionTest, WithoutPadsOnlyHeadsAndEndsArePrinted) {
     AddStack("V", 0.1,
              {Entry("TOP", Pad("CIRCLE", 0.5, 0.5)), Entry("BOT", Pad("CIRCLE", 0.5, 0.5))});
     g_options.g_nTranslatePads = 0;
-    EXPECT_EQ(
-        Library(),
-        "\n*PadStack Library Section\n\n.PadStackDef V 1.000000e-01mm\n\n.EndPadStackDef\n\n");
+    EXPECT_EQ(Library(), DataFile("qfx/PadStackSection/WithoutPadsOnlyHeadsAndEndsArePrinted.txt"));
     EXPECT_EQ(Mirrored(), ".PadStackDef V_Mirrd 1.000000e-01mm\n\n.EndPadStackDef\n\n");
 }
 
@@ -180,32 +162,7 @@ TEST_F(PadStackSectionTest, PadLinesOfEveryShapeWithAndWithoutOffsets) {
               Entry("D1", Pad("CIRCLE", 1, 1)), Entry("", Pad("CIRCLE", 1, 1)),
               Entry("XYZ", nullptr, Pad("RECTANGLE", 1, 2))});
     EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n.PadStackDef S\n\n"
-              ".PadDef Signal$TOP\nRegular Box 6.000000e-01mm 4.000000e-01mm\n"
-              "+ offSetX = 1.000000e-01mm offSetY = 0.000000e+00mm\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular Square 5.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular Circle 2.500000e-01mm\n"
-              "+ offSetX = 0.000000e+00mm offSetY = -2.000000e-01mm\n"
-              "Anti Square 9.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular RoundedRect_X 7.000000e-01mm 3.000000e-01mm\n"
-              "Anti RoundedRect_X 1.000000e+00mm 5.000000e-01mm\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular RoundedRect_Y 3.000000e-01mm 7.000000e-01mm\n"
-              "Anti RoundedRect_Y 5.000000e-01mm 1.000000e+00mm\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular Polygon\n"
-              "+                   1.000000e-01mm 2.000000e-01mm\n"
-              "+                   3.000000e-01mm 2.000000e-01mm\n"
-              "+                   2.000000e-01mm 4.000000e-01mm\n"
-              "+ \n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\nRegular Polygon\n"
-              "+                    1.000000e-01mm 2.000000e-01mm\n"
-              "+                    3.000000e-01mm 2.000000e-01mm\n"
-              "+                    2.000000e-01mm 4.000000e-01mm\n"
-              "+                    offSetX = 5.000000e-02mm offSetY = 0.000000e+00mm\n"
-              ".EndPadDef\n\n"
-              ".PadDef Signal$TOP\n.EndPadDef\n\n"
-              ".PadDef Signal$TOP\n.EndPadDef\n\n"
-              ".PadDef XYZ\nAnti Box 1.000000e+00mm 2.000000e+00mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+              DataFile("qfx/PadStackSection/PadLinesOfEveryShapeWithAndWithoutOffsets.txt"));
 }
 
 TEST_F(PadStackSectionTest, MirroredPadsDropOffsetsAndMirrorPolygonPoints) {
@@ -215,24 +172,16 @@ TEST_F(PadStackSectionTest, MirroredPadsDropOffsetsAndMirrorPolygonPoints) {
     AddStack("M", -1.0, {Entry("TOP", Pad("RECTANGLE", 0.6, 0.4, 0.1, 0.1)), Entry("BOT", poly)});
     Library();
     EXPECT_EQ(Mirrored(),
-              ".PadStackDef M_Mirrd\n\n"
-              ".PadDef Signal$TOP\nRegular Polygon\n"
-              "+                   -1.000000e-01mm 2.000000e-01mm\n"
-              "+                   3.000000e-01mm 2.000000e-01mm\n"
-              "+                   -0.000000e+00mm 4.000000e-01mm\n"
-              "+ \n.EndPadDef\n\n"
-              ".PadDef Signal$BOT\nRegular Box 6.000000e-01mm 4.000000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+              DataFile("qfx/PadStackSection/MirroredPadsDropOffsetsAndMirrorPolygonPoints.txt"));
 }
 
 TEST_F(PadStackSectionTest, AnAffixNamesEverythingAndLeavesMirroredCopiesEmpty) {
     fixtures::MakeLayerStack({{"TOP", S}, {"BOT", S}});
     AddStack("P", -1.0, {Entry("TOP", Pad("CIRCLE", 0.5, 0.5))});
     g_options.g_strNameAffix = "A_";
-    EXPECT_EQ(Library(),
-              "\n*PadStack Library Section\n\n.PadStackDef A_P\n\n"
-              ".PadDef Signal$A_TOP\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n");
+    EXPECT_EQ(
+        Library(),
+        DataFile("qfx/PadStackSection/AnAffixNamesEverythingAndLeavesMirroredCopiesEmpty.txt"));
     EXPECT_EQ(Mirrored(), ".PadStackDef A_P_Mirrd\n\n.EndPadStackDef\n\n");
 }
 
@@ -240,13 +189,7 @@ TEST_F(PadStackSectionTest, PackageEndWritesBothLibrariesBeforeEndPackage) {
     fixtures::MakeLayerStack({{"TOP", S}});
     AddStack("P", -1.0, {Entry("TOP", Pad("CIRCLE", 0.5, 0.5))});
     EXPECT_EQ(CaptureOutput([](FILE* f) { WritePackageEnd(f); }),
-              "\n*PadStack Library Section\n\n.PadStackDef P\n\n"
-              ".PadDef Signal$TOP\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n"
-              ".PadStackDef P_Mirrd\n\n"
-              ".PadDef Signal$TOP\nRegular Circle 2.500000e-01mm\n.EndPadDef\n\n"
-              ".EndPadStackDef\n\n"
-              "\n\n.EndPackage\n");
+              DataFile("qfx/PadStackSection/PackageEndWritesBothLibrariesBeforeEndPackage.txt"));
     WritePadStackLibrary(nullptr);
     WriteMirroredPadStacks(nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
@@ -12,6 +13,7 @@
 namespace {
 
 using testing_support::CaptureOutput;
+using testing_support::DataFile;
 
 // A stack given as "S:TOP", "D:D1", "P:GND": kind letter, colon, name.
 void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035) {
@@ -26,18 +28,6 @@ void MakeStack(const std::vector<std::string>& layers, double thickness = 0.035)
         l.permittivity = 4.3;
         l.ordinal = static_cast<uint8_t>(g_model.g_nLayerCount++);
     }
-}
-
-void MakeNets(const std::vector<std::string>& names) {
-    for (const auto& n : names) {
-        NetRec rec;
-        std::snprintf(rec.name, sizeof rec.name, "%s", n.c_str());
-        g_model.g_strNetNames.push_back(rec);
-        g_model.g_strDisplayNetNames.push_back(n);
-        g_options.g_pNetColors.push_back(
-            static_cast<int32_t>(g_options.g_pNetColors.size() % 11 + 1));
-    }
-    g_model.g_nNetCount = static_cast<int32_t>(names.size());
 }
 
 void AddShape(int layer, int polarity, int net, std::vector<ShapePoint> pts, double area = 1.0,
@@ -59,7 +49,7 @@ class ShapeWriterTest : public ::testing::Test {
     void SetUp() override {
         testing_support::ResetGlobals();
         MakeStack({"S:TOP", "D:D1", "P:GND", "D:D2", "S:BOT"});
-        MakeNets({"N1", "N2"});
+        fixtures::MakeNets({"N1", "N2"});
     }
     std::string Shapes() {
         return CaptureOutput([](FILE* f) { WriteShapes(f); });
@@ -69,15 +59,8 @@ class ShapeWriterTest : public ::testing::Test {
 TEST_F(ShapeWriterTest, FivePointRectangleIsABoxSixPointsAPolygon) {
     AddShape(0, kPolarityCopper, 0, {{0, 0}, {0, 1}, {2, 1}, {2, 0}, {0, 0}});
     AddShape(0, kPolarityCopper, 1, {{0, 0}, {2, 0}, {2, 1}, {0, 1}, {0, 0.5}, {0, 0}});
-    EXPECT_EQ(Shapes(),
-              ".Shape Shape$TOP Color = green\n"
-              "Polygon1::N2+ Color = green   0.000000e+00mm 0.000000e+00mm 2.000000e+00mm "
-              "0.000000e+00mm\n"
-              "+   2.000000e+00mm 1.000000e+00mm 0.000000e+00mm 1.000000e+00mm\n"
-              "+   0.000000e+00mm 5.000000e-01mm 0.000000e+00mm 0.000000e+00mm\n"
-              "Box0::N1+ Color = red 0.000000e+00mm 0.000000e+00mm 2.000000e+00mm 1.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+    EXPECT_EQ(Shapes(), DataFile("qfx/ShapeAndLayerWriter/"
+                                 "FivePointRectangleIsABoxSixPointsAPolygon.txt"));
     EXPECT_EQ(g_model.g_aLayers[0].hasShapes, 1);
 }
 
@@ -86,26 +69,16 @@ TEST_F(ShapeWriterTest, BoxTakesThePlainNetNameAndTheOtherWinding) {
     g_options.g_bColorShapesByNet = 0;
     g_options.g_strNameAffix = "A_";
     AddShape(2, kPolarityVoid, 0, {{1, 1}, {3, 1}, {3, 4}, {1, 4}, {1, 1}});
-    EXPECT_EQ(Shapes(),
-              ".Shape Shape$A_GND Color = green\n"
-              "BoxA_0::N1-  1.000000e+00mm 1.000000e+00mm 2.000000e+00mm 3.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+    EXPECT_EQ(Shapes(), DataFile("qfx/ShapeAndLayerWriter/"
+                                 "BoxTakesThePlainNetNameAndTheOtherWinding.txt"));
 }
 
 TEST_F(ShapeWriterTest, SevenPointsPrintFourLinesAndCirclesTheirRadius) {
     g_options.g_bAppendNetName = 0;
     AddShape(4, kPolarityCopper, kNoNet, {{0, 0}, {1, 0}, {2, 0}, {2, 1}, {1, 2}, {0, 1}, {0, 0}});
     AddShape(4, kPolarityCopper, 1, {{5, 6}, {0.25, 0.25}}, 0.2, kGeometryCircle);
-    EXPECT_EQ(Shapes(),
-              ".Shape Shape$BOT Color = green\n"
-              "Circle1+ Color = green 5.000000e+00mm 6.000000e+00mm 2.500000e-01mm\n"
-              "Polygon0+    0.000000e+00mm 0.000000e+00mm 1.000000e+00mm 0.000000e+00mm\n"
-              "+   2.000000e+00mm 0.000000e+00mm 2.000000e+00mm 1.000000e+00mm\n"
-              "+   1.000000e+00mm 2.000000e+00mm 0.000000e+00mm 1.000000e+00mm\n"
-              "+   0.000000e+00mm 0.000000e+00mm\n"
-              ".EndShape\n"
-              ".Shape PseudoNullShape Color = green\n.EndShape\n");
+    EXPECT_EQ(Shapes(), DataFile("qfx/ShapeAndLayerWriter/"
+                                 "SevenPointsPrintFourLinesAndCirclesTheirRadius.txt"));
 }
 
 TEST_F(ShapeWriterTest, SmallVoidsDropUnlessTheRunsFirstShapeIsUndiscardable) {
@@ -115,7 +88,8 @@ TEST_F(ShapeWriterTest, SmallVoidsDropUnlessTheRunsFirstShapeIsUndiscardable) {
     AddShape(0, kPolarityVoid, 0, tri, 0.5);  // equal to the limit: dropped
     AddShape(0, kPolarityVoid, 0, tri, 0.6);  // opens the run of TOP
     AddShape(0, kPolarityVoid, 0, tri, 0.1);  // dropped in the run as well
-    AddShape(2, kPolarityVoid, 0, tri, 0.5);  // undiscardable: opens and keeps the run
+    AddShape(2, kPolarityVoid, 0, tri,
+             0.5);  // undiscardable: opens and keeps the run
     g_model.g_aShapes[3].undiscardable = 1;
     AddShape(2, kPolarityVoid, 0, tri, 0.2);  // kept by the opener's flag
     AddShape(2, kPolarityCopper, 0, tri, 0.1);
@@ -153,18 +127,8 @@ class LayerWriterTest : public ::testing::Test {
 
 TEST_F(LayerWriterTest, NoPlanesEndInTwoPseudoPlanesAndEverySignalGetsAPatch) {
     MakeStack({"S:TOP", "D:D1", "S:BOT"});
-    EXPECT_EQ(Layers(),
-              "Signal$TOP Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = blue\n"
-              "Medium$D1 Thickness = 3.500000e-02mm Permittivity = 4.300000e+00\n"
-              "Signal$BOT Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = red\n"
-              "MediumPseudo3 Thickness = 0.01mm Permittivity = 4.0\n"
-              "PlanePseudo4 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n"
-              "MediumPseudo5 Thickness = 0.01mm Permittivity = 4.0\n"
-              "PlanePseudo6 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n"
-              "Patch$TOP\n+ Shape = Shape$TOP Layer = Signal$TOP\n"
-              "Patch$BOT\n+ Shape = Shape$BOT Layer = Signal$BOT\n");
+    EXPECT_EQ(Layers(), DataFile("qfx/ShapeAndLayerWriter/"
+                                 "NoPlanesEndInTwoPseudoPlanesAndEverySignalGetsAPatch.txt"));
 }
 
 TEST_F(LayerWriterTest, OnePlaneWithShapesAndThinOuterDielectrics) {
@@ -174,22 +138,19 @@ TEST_F(LayerWriterTest, OnePlaneWithShapesAndThinOuterDielectrics) {
     g_model.g_aLayers[3].hasShapes = 1;
     g_options.g_bAllowPatches = 0;
     g_options.g_strNameAffix = "X";
-    EXPECT_EQ(Layers(),
-              "Signal$XTOP Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = green\n"
-              "Medium$XD1 Thickness = 3.500000e-02mm Permittivity = 4.300000e+00\n"
-              "Plane$XGND Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Shape = "
-              "Shape$XGND Color = magenta\n"
-              "PlanePseudoX5 Thickness = 0.01mm Conductivity = 5.8e7 Shape = PseudoNullShape Color "
-              "= yellow\n");
+    EXPECT_EQ(Layers(), DataFile("qfx/ShapeAndLayerWriter/"
+                                 "OnePlaneWithShapesAndThinOuterDielectrics.txt"));
 }
 
 TEST_F(LayerWriterTest, ColoursFollowTheTableIndexAndPatchesCountAsPlanes) {
     MakeStack({"S:L0", "D:L1", "S:L2", "D:L3", "S:L4", "D:L5", "S:L6", "D:L7", "P:L8"});
     for (int i : {0, 2}) g_model.g_aLayers[i].hasShapes = 1;
     std::vector<std::string> lines = testing_support::SplitLines(Layers());
-    ASSERT_EQ(lines.size(), 9u + 4u * 2u);  // no pseudo layers: three planes counted
+    ASSERT_EQ(lines.size(),
+              9u + 4u * 2u);  // no pseudo layers: three planes counted
     EXPECT_EQ(lines[6],
-              "Signal$L6 Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Color = blue");
+              "Signal$L6 Thickness = 3.500000e-02mm Conductivity = "
+              "5.800000e+09 Color = blue");
     EXPECT_EQ(lines[8],
               "Plane$L8 Thickness = 3.500000e-02mm Conductivity = 5.800000e+09 Shape = "
               "PseudoNullShape Color = red");

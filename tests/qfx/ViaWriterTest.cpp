@@ -2,24 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include "Fixtures.h"
 #include "TestSupport.h"
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 
 namespace {
 
+using testing_support::DataFile;
+
 class ViaWriterTest : public ::testing::Test {
   protected:
     void SetUp() override {
         testing_support::ResetGlobals();
-        for (const char* n : {"CLK", "GND"}) {
-            NetRec rec;
-            std::snprintf(rec.name, sizeof rec.name, "%s", n);
-            g_model.g_strNetNames.push_back(rec);
-            g_model.g_strDisplayNetNames.push_back(n);
-        }
-        g_model.g_nNetCount = 2;
-        g_options.g_pNetColors = {1, 2};
+        fixtures::MakeNets({"CLK", "GND"});  // colours 1 and 2
         // Node 0 carries pin label "7"; node 1 has none.
         g_model.g_aNodes.resize(2);
         g_model.g_aNodes[0].id = 0;
@@ -50,21 +46,20 @@ TEST_F(ViaWriterTest, LineWithLabelsNetsColourAndPadstack) {
     g_model.g_aViaOut = {Stretch(1, 1, 1, 0)};
     g_options.g_strNameAffix = "A_";
     EXPECT_EQ(Vias(),
-              "ViaA_1::GND UpperNode = NodeA_0!!7::GND LowerNode = NodeA_1::CLK Color = green "
+              "ViaA_1::GND UpperNode = NodeA_0!!7::GND LowerNode = "
+              "NodeA_1::CLK Color = green "
               "PadStack = A_VIA20 AbsoluteRotation = 90.000000\n");
 }
 
 TEST_F(ViaWriterTest, NoNetStretchesFollowTheIncludeOption) {
     g_model.g_aViaOut = {Stretch(2, kNoNet, kNoNet, kNoNet), Stretch(3, kNoNetAlt, 0, kNoNetAlt)};
     g_model.g_aViaOut[1].padStack = nullptr;
-    // 65535 is left out, 65534 prints, in red, with empty suffixes for no-net ends.
+    // 65535 is left out, 65534 prints, in red, with empty suffixes for no-net
+    // ends.
     EXPECT_EQ(Vias(), "Via3 UpperNode = Node0!!7::CLK LowerNode = Node1 Color = red\n");
     g_options.g_nIncludeNoNetEtches = 1;
     g_options.g_bAppendNetName = 0;
-    EXPECT_EQ(Vias(),
-              "Via2 UpperNode = Node0!!7 LowerNode = Node1 Color = red PadStack = VIA20 "
-              "AbsoluteRotation = 90.000000\n"
-              "Via3 UpperNode = Node0!!7 LowerNode = Node1 Color = red\n");
+    EXPECT_EQ(Vias(), DataFile("qfx/ViaWriter/NoNetStretchesFollowTheIncludeOption.txt"));
 }
 
 }  // namespace
