@@ -95,12 +95,9 @@ void CNdd2QfxDlg::OnButtonInput() {
     if (file.empty()) return;
     UpdateData(true);
     m_strInputFile = file;
-    if (!m_strLastInput.empty() && m_strLastInput != file) {
-        m_driver.RereadInput();
+    // Another input: what the old one's run left goes (the new one is read afresh anyway).
+    if (!m_strLastInput.empty() && m_strLastInput != file)
         DeleteTemporaryFiles(m_strLastInput, m_strOutputFile);
-    } else if (m_strLastInput.empty()) {
-        m_driver.RereadInput();
-    }
     m_strLastInput = file;
     m_strOutputFile = DeriveOutputName(file);
     UpdateData(false);

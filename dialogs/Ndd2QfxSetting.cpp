@@ -14,6 +14,7 @@ constexpr int kWidth = 700;
 constexpr int kHeight = 800;
 constexpr int kButtonWidth = 75;
 constexpr int kButtonHeight = 23;
+constexpr int kMargin = 6;
 // Message number of a window being destroyed.
 constexpr unsigned kMsgDestroy = 2;
 
@@ -29,6 +30,8 @@ bool CNdd2QfxSetting::OnInitDialog() {
     dialog->setWindowTitle("Settings");
     dialog->resize(kWidth, kHeight);
     auto* column = new QVBoxLayout(dialog);
+    // Narrow margins: the pages' forms are 680 wide in a window of 700.
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     m_hTabCtrl = new QTabWidget(dialog);
     column->addWidget(m_hTabCtrl);
     auto* row = new QHBoxLayout();

@@ -28,6 +28,8 @@ const PickerCase kCases[] = {
 }  // namespace
 
 TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
+    // The forms are the program's; the manager that was registered comes back afterwards.
+    IQtResourceMgr* previous = RegisteredResourceMgr();
     CQtNdd2QfxResourceMgr resources;
     RegisterResourceMgr(&resources);
     for (const PickerCase& c : kCases) {
@@ -58,5 +60,5 @@ TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
         else
             EXPECT_NE(qAlpha(middle), 0u);  // the button's own face, not a colour
     }
-    RegisterResourceMgr(nullptr);
+    RegisterResourceMgr(previous);
 }

@@ -78,6 +78,7 @@ TEST_F(DialogRunTest, TheWindowShowsEachStageWhileTheTranslationRuns) {
     auto d = Open();
     d->SetDlgItemText(IDC_EDIT_INPUT, board);
     d->SetDlgItemText(IDC_EDIT_OUTPUT, dir.File("board.qfx"));
+    ASSERT_TRUE(d->GetDlgItem(IDC_PROGRESS1));
     auto* bar = qobject_cast<QProgressBar*>(d->GetDlgItem(IDC_PROGRESS1)->GetHandle());
     ASSERT_TRUE(bar);
     bar->setValue(70);

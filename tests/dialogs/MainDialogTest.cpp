@@ -17,9 +17,9 @@
 #include "dialogs/TemporaryFiles.h"
 #include "dialogs/forms/ControlIds.h"
 #include "ibis/IbisReader.h"
-#include "model/LayoutModel.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
+#include "tests/dialogs/ScriptedModals.h"
 #include "ui/MessageBox.h"
 
 namespace {
@@ -71,6 +71,9 @@ class MainDialogTest : public ::testing::Test {
         return enabled;
     }
 
+    // The Settings dialog that OnProperty opens is cancelled at once.
+    ScriptedModals settings{
+        std::vector<ScriptedModals::Script>(4, [](CUiDialog& d) { d.OnCancel(); })};
     std::vector<std::string> chosen;
     std::vector<FileRequest> requests;
     std::string menuChoice;
@@ -91,8 +94,9 @@ TEST_F(MainDialogTest, EveryCommandReachesItsHandler) {
         int id;
         const char* handler;
     };
-    // The About entry opens a modal box: it is only asked for.
+    // The About entry opens a box of its own: it is only asked for.
     EXPECT_TRUE(d->OnCmdMsg(IDM_ABOUTBOX, kCodeClicked, nullptr, true));
+    CMessageBoxAnswers boxes;
     for (Row row :
          {Row{IDC_BUTTON_INPUT, "OnButtonInput"}, Row{IDC_BUTTON_OUTPUT, "OnButtonOutput"},
           Row{IDC_PROPERTY, "OnProperty"}, Row{IDC_LOAD_LOG, "OnLoadLog"},
@@ -194,19 +198,14 @@ TEST_F(MainDialogTest, ALoadedLogLocksThePathsAndACancelledOneLeavesItsFlag) {
     EXPECT_EQ(PathControlsEnabled(*d), std::vector<bool>(4, true));
 }
 
-TEST_F(MainDialogTest, SettingsWithNoInputHasNoNetsAndAnUnreadableInputIsSaid) {
-    g_model.g_nNetCount = 1;
-    g_model.g_strNetNames.resize(1);
+TEST_F(MainDialogTest, AnUnreadableInputStopsTheSettingsStep) {
     auto d = Open();
-    d->OnProperty();
-    EXPECT_EQ(g_model.g_nNetCount, 0);
-    EXPECT_TRUE(g_model.g_strNetNames.empty());
-
     d->SetDlgItemText(IDC_EDIT_INPUT, dir.File("missing.ndd"));
     CMessageBoxAnswers boxes;
     d->OnProperty();
     EXPECT_EQ(Texts(boxes), std::vector<std::string>{
                                 "Unable To open The Input NDD File\nPlease Check the Permissions"});
+    EXPECT_EQ(settings.Ran(), 0u);
 }
 
 TEST_F(MainDialogTest, MoreMenuLeadsToTheDocumentsAndHelpNamesToolAndTag) {

@@ -32,16 +32,13 @@ bool Save(QWidget* widget, const std::string& path) {
     return saved;
 }
 
-// The two pages of the Settings dialog over the example board, with two nets chosen.
+// The two pages of the Settings dialog over the example board, with three nets chosen.
 bool SaveSettingsPages(const std::string& folder, const std::string& work) {
     CNdd2QfxDlg main;
     main.Create(IDD_Ndd2Qfx_DIALOG);
     main.SetDlgItemText(IDC_EDIT_INPUT, work + "/board.ndd");
     main.SetDlgItemText(IDC_EDIT_OUTPUT, work + "/board.qfx");
     g_options.g_strTraceFile = work + "/traces";
-    g_options.g_pSelectedNets = {0, 2};
-    g_options.g_nSelectedNetCount = 2;
-    g_options.g_bAllNets = 0;
     bool ok = true;
     // The Settings step reads the board, then opens the dialog; the pictures are taken in its
     // modal run, which the last one ends.
@@ -52,6 +49,12 @@ bool SaveSettingsPages(const std::string& folder, const std::string& work) {
         look.stop();
         ok &= Save(settings->GetHandle(), folder + "/settings-options.png");
         settings->TabControl()->setCurrentIndex(1);
+        CUiListCtrl* nets = settings->NetChoicePage().NetList();
+        for (int row : {0, 2, 3}) nets->SetItemSelected(row, true);
+        QApplication::processEvents();
+        // CLK as if given "darkmagenta" in the picker.
+        nets->SetItemImage(0, 10);
+        settings->NetChoicePage().ChoiceList()->SetItemImage(0, 10);
         ok &= Save(settings->GetHandle(), folder + "/settings-nets.png");
         settings->OnCancel();
     });
