@@ -41,6 +41,9 @@ class TranslationDriver {
     // Afterwards the next Translate reads no more of it, so what the user picked stays.
     void ForgetInput();
     void ReadForSettings(const std::string& inputFile, const std::string& outputFile);
+    // The parts and models read for the Settings step or the running translation; null
+    // before the input is read.
+    ModelAssignment* Models() const { return g_pModelAssignment.get(); }
     // A part whose model the user has yet to settle; it takes part in the IBIS step.
     void AddUnresolvedPart(const std::string& partNumber);
 

@@ -134,7 +134,7 @@ void CNdd2QfxDlg::OnProperty() {
         return;
     }
     m_driver.ReadForSettings(m_strInputFile, m_strOutputFile);
-    RunSettingsDialog(*this, m_services);
+    RunSettingsDialog(*this, m_services, m_driver.Models());
 }
 
 void CNdd2QfxDlg::OnOK() {

@@ -21,7 +21,7 @@ constexpr unsigned kMsgDestroy = 2;
 }  // namespace
 
 CNdd2QfxSetting::CNdd2QfxSetting(QWidget* parent, DialogServices services)
-    : CUiDialog(0, parent), m_property(services), m_netChoice(services) {}
+    : CUiDialog(0, parent), m_property(services), m_netChoice(services), m_ibisFiles(services) {}
 
 bool CNdd2QfxSetting::OnInitDialog() {
     CUiDialog::OnInitDialog();
@@ -51,6 +51,8 @@ bool CNdd2QfxSetting::OnInitDialog() {
     m_netChoice.Create(IDD_NET_CHOICE, m_hTabCtrl, false, "QWidget");
     m_hTabCtrl->addTab(m_property.GetHandle(), "Translation Options");
     m_hTabCtrl->addTab(m_netChoice.GetHandle(), "Net Selection");
+    m_ibisFiles.Create(IDD_IBIS_FILE_SELECTION, m_hTabCtrl, false, "QWidget");
+    m_hTabCtrl->addTab(m_ibisFiles.GetHandle(), "IBIS Files");
     return true;
 }
 
@@ -62,6 +64,7 @@ void CNdd2QfxSetting::OnOK() {
     CUiDialog::OnOK();
     m_property.OnOK();
     m_netChoice.OnOK();
+    m_ibisFiles.OnOK();
 }
 
 int CNdd2QfxSetting::DoModal() {

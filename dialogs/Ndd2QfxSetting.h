@@ -3,6 +3,7 @@
 // and OK and Cancel below. OK hands over to each page's OK in turn; Cancel changes nothing.
 #include "dialogs/DialogProperty.h"
 #include "dialogs/DialogServices.h"
+#include "dialogs/IBISFileSelector.h"
 #include "dialogs/NetChoice.h"
 #include "ui/UiDialog.h"
 
@@ -24,10 +25,12 @@ class CNdd2QfxSetting : public CUiDialog {
 
     CDialogProperty& PropertyPage() { return m_property; }
     CNetChoice& NetChoicePage() { return m_netChoice; }
+    CIBISFileSelector& IbisPage() { return m_ibisFiles; }
     QTabWidget* TabControl() const { return m_hTabCtrl; }
 
   private:
     CDialogProperty m_property;
     CNetChoice m_netChoice;
+    CIBISFileSelector m_ibisFiles;
     QTabWidget* m_hTabCtrl = nullptr;
 };

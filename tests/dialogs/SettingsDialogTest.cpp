@@ -366,16 +366,19 @@ TEST_F(SettingsDialogTest, TheBrowsersAskWithTheirTitlesAndFiltersAndCheckTheLay
     EXPECT_EQ(g_options.g_strHkpFile, "/pcb/Layout.HKP");
 }
 
-TEST_F(SettingsDialogTest, TwoTabsUnderTheTitleAndTheHelpFormOfEach) {
+TEST_F(SettingsDialogTest, TabsUnderTheTitleAndTheHelpFormOfEach) {
     Run([](CNdd2QfxSetting& d) {
         QTabWidget* tabs = d.TabControl();
         EXPECT_EQ(d.GetHandle()->windowTitle().toStdString(), "Settings");
-        ASSERT_EQ(tabs->count(), 2);
+        ASSERT_EQ(tabs->count(), 3);
         EXPECT_EQ(tabs->tabText(0).toStdString(), "Translation Options");
         EXPECT_EQ(tabs->tabText(1).toStdString(), "Net Selection");
+        EXPECT_EQ(tabs->tabText(2).toStdString(), "IBIS Files");
         EXPECT_EQ(d.GetHelpFormName(), "Ndd2QfxOptions");
         tabs->setCurrentIndex(1);
         EXPECT_EQ(d.GetHelpFormName(), "NddNetChoiceForm");
+        tabs->setCurrentIndex(2);
+        EXPECT_EQ(d.GetHelpFormName(), "Ndd2QfxOptions");
         Press(d, kIdCancel);
     });
 }

@@ -15,6 +15,7 @@
 #include "dialogs/AboutDialog.h"
 #include "dialogs/Ndd2QfxDlg.h"
 #include "dialogs/Ndd2QfxSetting.h"
+#include "dialogs/PowerPinSelector.h"
 #include "dialogs/forms/ControlIds.h"
 #include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "model/ReportMessage.h"
@@ -32,7 +33,29 @@ bool Save(QWidget* widget, const std::string& path) {
     return saved;
 }
 
-// The two pages of the Settings dialog over the example board, with three nets chosen.
+// The pin mapping dialog of the IBIS page's first part, every group open.
+bool SavePinMapping(CNdd2QfxSetting& settings, const std::string& folder) {
+    CIBISFileSelector& page = settings.IbisPage();
+    CUiListCtrl* parts = page.ListCtrl().List();
+    if (!parts || parts->GetItemCount() == 0) return false;
+    parts->SetFocusedRow(0);
+    bool ok = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* mapping = dynamic_cast<CPowerPinSelector*>(g_pModalDialog);
+        if (!mapping || !mapping->GetHandle()->isVisible()) return;
+        look.stop();
+        for (const PinGroupRec& group : std::vector<PinGroupRec>(mapping->Groups().Groups()))
+            mapping->Groups().SetOpen(group.group, true);
+        ok = Save(mapping->GetHandle(), folder + "/pin-mapping.png");
+        mapping->EndDialog(kIdCancel);
+    });
+    look.start(50);
+    page.OnCmdMsg(IDC_BUTTON_EDIT_IBIS_FILE, kCodeClicked, nullptr, false);
+    return ok;
+}
+
+// The pages of the Settings dialog over the example board, with three nets chosen.
 bool SaveSettingsPages(const std::string& folder, const std::string& work) {
     CNdd2QfxDlg main;
     main.Create(IDD_Ndd2Qfx_DIALOG);
@@ -56,6 +79,9 @@ bool SaveSettingsPages(const std::string& folder, const std::string& work) {
         nets->SetItemImage(0, 10);
         settings->NetChoicePage().ChoiceList()->SetItemImage(0, 10);
         ok &= Save(settings->GetHandle(), folder + "/settings-nets.png");
+        settings->TabControl()->setCurrentIndex(2);
+        ok &= Save(settings->GetHandle(), folder + "/settings-ibis.png");
+        ok &= SavePinMapping(*settings, folder);
         settings->OnCancel();
     });
     look.start(50);
@@ -77,7 +103,8 @@ int main(int argc, char** argv) {
     std::string work = base::TempFolder() + "/ndd2qfx_screenshots";
     base::ChangeFolder(base::TempFolder());
     if (std::system(("rm -rf '" + work + "' && mkdir -p '" + work +
-                     "' && cp '" NDD2QFX_SOURCE_DIR "/examples/board.ndd' '" + work + "/'")
+                     "' && cp '" NDD2QFX_SOURCE_DIR "/examples/board.ndd' '" + work +
+                     "/' && cp -r '" NDD2QFX_SOURCE_DIR "/examples/IBISModels' '" + work + "/'")
                         .c_str()) != 0)
         return 1;
     bool ok = true;

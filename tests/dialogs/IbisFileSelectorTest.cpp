@@ -1,0 +1,145 @@
+// The IBIS file page: which parts it lists, what choosing a file does to a part, and a part
+// mapped through the pin mapping dialog taking part in the IBIS step.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <algorithm>
+
+#include "Fixtures.h"
+#include "TestSupport.h"
+#include "dialogs/IBISFileSelector.h"
+#include "dialogs/forms/ControlIds.h"
+#include "ibis/ModelAssignment.h"
+#include "model/TranslationOptions.h"
+#include "tests/dialogs/ScriptedModals.h"
+#include "ui/MessageBox.h"
+#include "ui/UiListCtrl.h"
+
+namespace {
+
+using namespace testing_support;
+
+const std::string kBuffer = NDD2QFX_SOURCE_DIR "/tests/data/ibis/dialog/buf2.ibs";
+
+class IbisFileSelectorTest : public ::testing::Test {
+  protected:
+    // BUF2 (U1, U3) has the five pins of buf2.ibs, SMALL (U2) three of them, RES (R1) two.
+    void SetUp() override {
+        ResetGlobals();
+        fixtures::MakeNets({"N1", "N2"});
+        Add("U1", "BUF2", 5, "N2");
+        Add("U3", "BUF2", 5, "N2");
+        Add("U2", "SMALL", 3, "N1");
+        Add("R1", "RES", 2, "N1");
+        models.ResolveModels();
+        file = dir.Write("buf2.ibs", ReadFile(kBuffer));
+    }
+
+    void Add(const std::string& refDes, const std::string& part, int pins, const char* net) {
+        ComponentRec& c = table[refDes];
+        c.refDes = refDes;
+        c.partNumber = part;
+        c.packageName = "PKG" + std::to_string(pins);
+        for (int p = 1; p <= pins; ++p) {
+            PinRec& pin = c.pins.emplace_back();
+            pin.name = std::to_string(p);
+            pin.net = net;
+        }
+    }
+
+    void Open() { page.Create(IDD_IBIS_FILE_SELECTION, nullptr, false, "QWidget"); }
+    CUiListCtrl& List() { return *page.ListCtrl().List(); }
+    int Row(const char* part) { return List().FindItem(part); }
+
+    // "part|file|designators|check", sorted by part.
+    std::vector<std::string> Rows() {
+        std::vector<std::string> rows;
+        for (int r = 0; r < List().GetItemCount(); ++r)
+            rows.push_back(List().GetItemText(r, 0).toStdString() + "|" +
+                           List().GetItemText(r, 1).toStdString() + "|" +
+                           List().GetItemText(r, 2).toStdString() + "|" +
+                           (List().GetCheck(r) ? "x" : "-"));
+        std::sort(rows.begin(), rows.end());
+        return rows;
+    }
+
+    base::StringMap<ComponentRec> table{base::kComponentBuckets};
+    base::StringMap<std::string> assignments{base::kComponentBuckets};
+    ModelAssignment models{&table, "out.qfx", nullptr, nullptr, &assignments, "in.ndd"};
+    ScratchDir dir;
+    std::string file;
+    AnsweredServices answers;
+    CIBISFileSelector page{answers.Make(), &models};
+};
+
+struct Listing {
+    int chosenNet;  // -1: no net selection
+    std::vector<std::string> rows;
+};
+
+const Listing kListings[] = {
+    {-1, {"BUF2||U1, U3, |-", "SMALL||U2, |-"}},
+    {0, {"SMALL||U2, |-"}},
+};
+
+}  // namespace
+
+TEST_F(IbisFileSelectorTest, ListsActivePartsOfTheChosenNets) {
+    for (const Listing& listing : kListings) {
+        g_options.g_bSelectedOnly = listing.chosenNet >= 0;
+        g_options.g_nSelectedNetCount = listing.chosenNet >= 0 ? 1 : 0;
+        g_options.g_pSelectedNets = {listing.chosenNet};
+        if (!page.GetHandle())
+            Open();
+        else
+            page.FillList();
+        EXPECT_EQ(Rows(), listing.rows);
+    }
+}
+
+TEST_F(IbisFileSelectorTest, ForeignPinsKeepTheOldFileAndAMatchingFileIsTaken) {
+    Open();
+    answers.files = {file, file};
+    CMessageBoxAnswers boxes;
+    emit List().itemDoubleClicked(Row("SMALL"), 0);
+    emit List().itemDoubleClicked(Row("BUF2"), 0);
+    ASSERT_EQ(boxes.Shown().size(), 1u);
+    EXPECT_EQ(boxes.Shown()[0].text,
+              "Pins in IBIS file : " + file +
+                  " \ndo not exist in  Package : PKG3 for the selected Part No\n"
+                  "Please assign IBIS file matched to selected Part No :SMALL .");
+    EXPECT_EQ(answers.requests[0].title, "Select IBIS File for  Part No: SMALL");
+    EXPECT_EQ(answers.requests[0].filter, "ibs Files (*.ibs)");
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"BUF2|" + file + "|U1, U3, |-", "SMALL||U2, |-"}));
+    EXPECT_EQ(table["U2"].ibisFile, "");
+    EXPECT_EQ(table["U3"].ibisFile, file);
+    EXPECT_EQ(assignments["BUF2"], file);
+    EXPECT_FALSE(assignments.Contains("SMALL"));
+}
+
+// Both signal pins linked to both groups make the mapping complete: the row is checked, and
+// OK names the part for the IBIS step.
+TEST_F(IbisFileSelectorTest, EditedMappingChecksThePartForTheIbisStep) {
+    Open();
+    answers.files = {file};
+    emit List().itemDoubleClicked(Row("BUF2"), 0);
+    List().SetFocusedRow(Row("BUF2"));
+    ScriptedModals modals(
+        {[](CUiDialog& d) {
+             d.OnCmdMsg(IDC_BUTTON_CHECK_ALL, kCodeClicked, nullptr, false);
+             d.OnCmdMsg(IDC_BUTTON_LINK_GROUPS, kCodeClicked, nullptr, false);
+             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
+         },
+         [](CUiDialog& d) {
+             for (int id : {IDC_COMBO_PULL_UP, IDC_COMBO_POWER_CLAMP, IDC_COMBO_PULL_DOWN,
+                            IDC_COMBO_GROUND_CLAMP})
+                 qobject_cast<QComboBox*>(d.GetDlgItem(id)->GetHandle())->setCurrentIndex(1);
+             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
+         }});
+    page.OnCmdMsg(IDC_BUTTON_EDIT_IBIS_FILE, kCodeClicked, nullptr, false);
+    EXPECT_EQ(modals.Ran(), 2u);
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"BUF2|" + file + "|U1, U3, |x", "SMALL||U2, |-"}));
+    page.OnOK();
+    EXPECT_EQ(models.ibisParts.Keys(), (std::vector<std::string>{"BUF2"}));
+    EXPECT_EQ(models.ibisParts["BUF2"], "T");
+}
