@@ -63,11 +63,14 @@ DriveStep Key(const char* window, const char* control, Qt::Key key) {
     return {window, [control, key](QWidget* w) { QTest::keyClick(Child(w, control), key); }};
 }
 
-DriveStep ClickRow(const char* window, const char* list, int row) {
-    return {window, [list, row](QWidget* w) {
+// Clicks a row of a list in its middle, or near its top left corner where a list may keep a
+// check box.
+DriveStep ClickRow(const char* window, const char* list, int row, bool corner = false) {
+    return {window, [list, row, corner](QWidget* w) {
                 auto* view = qobject_cast<QAbstractItemView*>(Child(w, list));
                 const QRect rect = view->visualRect(view->model()->index(row, 0));
-                QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center());
+                const QPoint at = corner ? rect.topLeft() + QPoint(4, 4) : rect.center();
+                QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
             }};
 }
 
@@ -95,6 +98,8 @@ const char* const kMain = "IDC_EDIT_INPUT";
 const char* const kSettings = "IDC_NET_CHOICE";
 const char* const kPicker = "IDC_COLOR_NAME";
 const char* const kFileDialog = "fileNameEdit";
+const char* const kIbisList = "IDC_CTRL_LIST_IBIS_FILE_SELECTION";
+const char* const kPinMap = "IDC_LIST_CTRL_MAKE_GROUPS";
 
 const std::map<std::string, std::vector<DriveStep>>& Sessions() {
     static const std::map<std::string, std::vector<DriveStep>> sessions = {
@@ -109,6 +114,15 @@ const std::map<std::string, std::vector<DriveStep>>& Sessions() {
           Key(kPicker, kPicker, Qt::Key_Down), Key(kPicker, kPicker, Qt::Key_Down),
           CheckPoint(kPicker), Click(kPicker, "IDOK"), CheckPoint(kSettings),
           Click(kSettings, "IDOK"), CheckPoint(kMain), Click(kMain, "IDCANCEL")}},
+        {"ibis_pins",
+         {Type(kMain, kMain, "board.ndd"), Type(kMain, "IDC_EDIT_OUTPUT", "board.qfx"),
+          Click(kMain, "IDC_PROPERTY"), ClickTab(kSettings, 2),
+          ClickRow(kSettings, kIbisList, 0, true),
+          Type(kFileDialog, kFileDialog, "SN74LVC1G14.ibs"),
+          Key(kFileDialog, kFileDialog, Qt::Key_Return), ClickRow(kSettings, kIbisList, 0),
+          Click(kSettings, "IDC_BUTTON_EDIT_IBIS_FILE"), Click(kPinMap, "IDC_BUTTON_UNCHECK_ALL"),
+          CheckPoint(kPinMap), Click(kPinMap, "IDOK"), Click(kSettings, "IDOK"),
+          Click(kMain, "IDCANCEL")}},
         {"load_log",
          {Click(kMain, "IDC_LOAD_LOG"), Type(kFileDialog, kFileDialog, "rerun.log"),
           Key(kFileDialog, kFileDialog, Qt::Key_Return), Click(kMain, "IDC_PROPERTY"),
