@@ -156,12 +156,15 @@ void CNdd2QfxDlg::OnOK() {
 }
 
 void CNdd2QfxDlg::OnCancel() {
+    if (m_bTranslating) return;
     DeleteTempFiles();
     CUiDialog::OnCancel();
 }
 
 int CNdd2QfxDlg::Translate(std::string inputFile, std::string outputFile) {
+    m_bTranslating = true;
     TranslateStatus status = m_driver.Translate(std::move(inputFile), std::move(outputFile));
+    m_bTranslating = false;
     // A refused replacement ends the program; the window does not come back.
     if (status == TranslateStatus::Declined) m_services.endProcess(0);
     return status == TranslateStatus::Done ? 1 : 0;

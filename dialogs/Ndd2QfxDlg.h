@@ -76,6 +76,9 @@ class CNdd2QfxDlg : public CUiDialog, public TranslationHost {
     std::string m_strMessage;
     std::string m_strLastInput;
     bool m_bFirstIdle = true;
+    // A translation is running: the window repaints between stages, but it must not close
+    // under the translation, which still holds its open output and log.
+    bool m_bTranslating = false;
     // A dialog run has the F1 help; a batch run's dialog object is never shown.
     bool m_bHelpKey = false;
     std::unique_ptr<QMenu> m_hMoreMenu;

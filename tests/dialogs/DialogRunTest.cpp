@@ -6,6 +6,7 @@
 
 #include <QProgressBar>
 #include <QTimer>
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -106,6 +107,34 @@ TEST_F(DialogRunTest, TheWindowShowsEachStageWhileTheTranslationRuns) {
             "Writing PKG header ... | 10", "Writing Via Info... | 10", "Writing Shape Info... | 10",
             "Writing Layer Info... | 10", "Writing Node Info... | 10", "Writing Trace Info... | 10",
             "Writing PKG End... | 10", "Translation completed | 10"}));
+}
+
+// The window repaints between stages; an Exit that arrives then must not close the output
+// under the translation.
+TEST_F(DialogRunTest, ExitDuringATranslationLeavesItToFinish) {
+    std::string qfx = dir.File("board.qfx");
+    auto d = Open();
+    d->SetDlgItemText(IDC_EDIT_INPUT, board);
+    d->SetDlgItemText(IDC_EDIT_OUTPUT, qfx);
+    {
+        CMessageBoxAnswers boxes({kAnswerNo});
+        d->OnOK();
+    }
+    std::string whole = ReadFile(qfx);
+    std::remove(qfx.c_str());
+    std::remove((qfx + ".log").c_str());
+    auto again = Open();
+    again->SetDlgItemText(IDC_EDIT_INPUT, board);
+    again->SetDlgItemText(IDC_EDIT_OUTPUT, qfx);
+    QTimer exit;
+    QObject::connect(&exit, &QTimer::timeout, [&] {
+        if (again->GetDlgItemText(IDC_MSG) == "Writing Title ...") again->OnCancel();
+    });
+    exit.start(0);
+    CMessageBoxAnswers boxes({kAnswerNo});
+    again->OnOK();
+    exit.stop();
+    EXPECT_EQ(ReadFile(qfx), whole);
 }
 
 TEST_F(DialogRunTest, ARefusedReplacementEndsTheProgramBeforeAnythingIsWritten) {
