@@ -108,8 +108,12 @@ bool CDragDropListCtrl::DropOn(int row) {
 
 bool CDragDropListCtrl::eventFilter(QObject* watched, QEvent* event) {
     if (!m_list || watched != m_list->viewport()) return false;
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove &&
+        type != QEvent::MouseButtonRelease)
+        return false;
     auto* mouse = static_cast<QMouseEvent*>(event);
-    switch (event->type()) {
+    switch (type) {
         case QEvent::MouseButtonPress:
             return mouse->button() == Qt::LeftButton && OnPress(mouse->pos());
         case QEvent::MouseMove:
