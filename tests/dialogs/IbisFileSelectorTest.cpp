@@ -1,19 +1,14 @@
-// The IBIS file page: which parts it lists, what choosing a file does to a part, and a part
-// mapped through the pin mapping dialog taking part in the IBIS step.
+// The IBIS file page: which parts it lists and what choosing a file does to a part. A part
+// mapped through the pin mapping dialog is in IbisRunTest.
 #include <gtest/gtest.h>
 
-#include <QComboBox>
 #include <algorithm>
 
 #include "Fixtures.h"
-#include "TestSupport.h"
 #include "dialogs/IBISFileSelector.h"
-#include "dialogs/forms/ControlIds.h"
 #include "ibis/ModelAssignment.h"
 #include "model/TranslationOptions.h"
-#include "tests/dialogs/ScriptedModals.h"
-#include "ui/MessageBox.h"
-#include "ui/UiListCtrl.h"
+#include "tests/dialogs/DialogTestSupport.h"
 
 namespace {
 
@@ -115,31 +110,4 @@ TEST_F(IbisFileSelectorTest, ForeignPinsKeepTheOldFileAndAMatchingFileIsTaken) {
     EXPECT_EQ(table["U3"].ibisFile, file);
     EXPECT_EQ(assignments["BUF2"], file);
     EXPECT_FALSE(assignments.Contains("SMALL"));
-}
-
-// Both signal pins linked to both groups make the mapping complete: the row is checked, and
-// OK names the part for the IBIS step.
-TEST_F(IbisFileSelectorTest, EditedMappingChecksThePartForTheIbisStep) {
-    Open();
-    answers.files = {file};
-    emit List().itemDoubleClicked(Row("BUF2"), 0);
-    List().SetFocusedRow(Row("BUF2"));
-    ScriptedModals modals(
-        {[](CUiDialog& d) {
-             d.OnCmdMsg(IDC_BUTTON_CHECK_ALL, kCodeClicked, nullptr, false);
-             d.OnCmdMsg(IDC_BUTTON_LINK_GROUPS, kCodeClicked, nullptr, false);
-             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
-         },
-         [](CUiDialog& d) {
-             for (int id : {IDC_COMBO_PULL_UP, IDC_COMBO_POWER_CLAMP, IDC_COMBO_PULL_DOWN,
-                            IDC_COMBO_GROUND_CLAMP})
-                 qobject_cast<QComboBox*>(d.GetDlgItem(id)->GetHandle())->setCurrentIndex(1);
-             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
-         }});
-    page.OnCmdMsg(IDC_BUTTON_EDIT_IBIS_FILE, kCodeClicked, nullptr, false);
-    EXPECT_EQ(modals.Ran(), 2u);
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"BUF2|" + file + "|U1, U3, |x", "SMALL||U2, |-"}));
-    page.OnOK();
-    EXPECT_EQ(models.ibisParts.Keys(), (std::vector<std::string>{"BUF2"}));
-    EXPECT_EQ(models.ibisParts["BUF2"], "T");
 }
