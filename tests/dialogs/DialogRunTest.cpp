@@ -1,14 +1,12 @@
 // A translation run by the main window: the stages it shows while the one thread translates,
-// the questions it asks in their order, and the start routine's dialog run, which translates
-// on its first idle moment and leaves the QFX file of a batch run.
+// the questions it asks, and an Exit while it runs. The start routine's dialog run, which
+// translates on its first idle moment, is a batch case (dialog_run_translates_on_first_idle).
 #include <gtest/gtest.h>
 
 #include <QProgressBar>
 #include <QTimer>
 #include <cstdio>
 
-#include "app/Ndd2QfxApp.h"
-#include "app/ProcessHooks.h"
 #include "base/Platform.h"
 #include "model/ReportMessage.h"
 #include "model/TranslationOptions.h"
@@ -25,22 +23,10 @@ class DialogRunTest : public ::testing::Test {
         board = CopyExamples(dir, {"board.ndd"});
         start = base::CurrentFolder();
     }
-    void TearDown() override {
-        base::ChangeFolder(start);
-        ResetProcessHooks();
-    }
-
-    // The start routine of a run with these arguments, as the program runs it.
-    void RunProgram(std::vector<std::string> args) {
-        args.insert(args.begin(), "ndd2qfx");
-        CNdd2QfxApp app(args);
-        EXPECT_EQ(app.InitInstance(), -1);
-        base::ChangeFolder(start);
-    }
+    void TearDown() override { base::ChangeFolder(start); }
 
     ScratchDir dir;
     std::string board, start, qfx = dir.File("board.qfx");
-    const std::vector<std::string> tracesQuestion = {DataFile("dialogs/traces_question.txt")};
     AnsweredServices answers;
 };
 
@@ -62,7 +48,7 @@ TEST_F(DialogRunTest, TheWindowShowsEachStageWhileTheTranslationRuns) {
     CMessageBoxAnswers boxes({kAnswerNo});
     d->OnOK();
     look.stop();
-    EXPECT_EQ(Texts(boxes), tracesQuestion);
+    EXPECT_EQ(Texts(boxes), std::vector<std::string>{DataFile("dialogs/traces_question.txt")});
     EXPECT_EQ(seen, DataFile("dialogs/translation_stages.txt"));
 }
 
@@ -96,20 +82,6 @@ TEST_F(DialogRunTest, ARefusedReplacementEndsTheProgramBeforeAnythingIsWritten) 
                                 "Target qfx file already exists, \n Do you want to replace it?"});
     EXPECT_EQ(answers.endStatus, 0);
     EXPECT_EQ(ReadFile(qfx), "kept");
-}
-
-TEST_F(DialogRunTest, TheCommandLinesPairTranslatesOnFirstIdleAsABatchRunDoes) {
-    SetMainDialogRunner(RunMainDialog);
-    {
-        CMessageBoxAnswers boxes({kAnswerNo});
-        RunProgram({board, dir.File("dialog.qfx")});
-        EXPECT_EQ(Texts(boxes), tracesQuestion);
-    }
-    ResetGlobals();
-    RunProgram({"-NoUI", board, dir.File("batch.qfx")});
-    std::string dialogDeck = ReadFile(dir.File("dialog.qfx"));
-    EXPECT_NE(dialogDeck.find(".EndPackage"), std::string::npos);
-    EXPECT_EQ(dialogDeck, ReadFile(dir.File("batch.qfx")));
 }
 
 }  // namespace
