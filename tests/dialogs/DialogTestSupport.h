@@ -128,6 +128,17 @@ inline std::vector<std::string> Rows(const CUiListCtrl* list) {
     return rows;
 }
 
+// "cell|...|cell|x" of every row of a list: columns first to last, then x or - for its check.
+inline std::vector<std::string> CheckedRows(const CUiListCtrl* list, int first, int last) {
+    std::vector<std::string> rows;
+    for (int r = 0; r < list->GetItemCount(); ++r) {
+        std::string row;
+        for (int c = first; c <= last; ++c) row += list->GetItemText(r, c).toStdString() + "|";
+        rows.push_back(row + (list->GetCheck(r) ? "x" : "-"));
+    }
+    return rows;
+}
+
 // The main window over the answered services, with its input and output named.
 inline std::unique_ptr<CNdd2QfxDlg> OpenMainDialog(AnsweredServices& answers,
                                                    const std::string& input = "",

@@ -48,12 +48,7 @@ class IbisFileSelectorTest : public ::testing::Test {
 
     // "part|file|designators|check", sorted by part.
     std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        for (int r = 0; r < List().GetItemCount(); ++r)
-            rows.push_back(List().GetItemText(r, 0).toStdString() + "|" +
-                           List().GetItemText(r, 1).toStdString() + "|" +
-                           List().GetItemText(r, 2).toStdString() + "|" +
-                           (List().GetCheck(r) ? "x" : "-"));
+        std::vector<std::string> rows = CheckedRows(&List(), 0, 2);
         std::sort(rows.begin(), rows.end());
         return rows;
     }

@@ -59,8 +59,7 @@ TEST_F(IbisRunTest, APartMappedInTheDialogIsWrittenInItsActiveForm) {
              ASSERT_EQ(parts.GetItemCount(), 1);
              parts.SetFocusedRow(0);
              Press(settings.IbisPage(), IDC_BUTTON_EDIT_IBIS_FILE);
-             for (int c = 0; c < 3; ++c) rows.push_back(parts.GetItemText(0, c).toStdString());
-             rows.push_back(parts.GetCheck(0) ? "x" : "-");
+             rows = CheckedRows(&parts, 0, 2);
              Press(s, kIdOk);
          },
          [](CUiDialog& mapping) {
@@ -71,8 +70,8 @@ TEST_F(IbisRunTest, APartMappedInTheDialogIsWrittenInItsActiveForm) {
          [](CUiDialog& groups) { ChooseGroups(groups); }});
     main->OnProperty();
     EXPECT_EQ(modals.Ran(), 3u);
-    EXPECT_EQ(rows, (std::vector<std::string>{"SN74LVC1G14", dir.File("IBISModels/SN74LVC1G14.ibs"),
-                                              "U1, ", "x"}));
+    EXPECT_EQ(rows, std::vector<std::string>{"SN74LVC1G14|" +
+                                             dir.File("IBISModels/SN74LVC1G14.ibs") + "|U1, |x"});
     {
         // No traces file was named: its question is the only one, answered No.
         CMessageBoxAnswers boxes({kAnswerNo});

@@ -47,15 +47,7 @@ void Drag(CUiListCtrl& list, const std::string& from, const std::string& onto) {
 
 // "pin|pulldown|pullup|gndclamp|powerclamp|check" of every signal pin row.
 std::vector<std::string> PinRows(CPowerPinSelector& d) {
-    std::vector<std::string> rows;
-    CUiListCtrl* list = d.PinList();
-    for (int r = 0; r < list->GetItemCount(); ++r) {
-        std::string row;
-        for (int c = kColPin; c <= kLastRefColumn; ++c)
-            row += list->GetItemText(r, c).toStdString() + "|";
-        rows.push_back(row + (list->GetCheck(r) ? "x" : "-"));
-    }
-    return rows;
+    return CheckedRows(d.PinList(), kColPin, kLastRefColumn);
 }
 
 // Part BUF2 with the five pins of buf2.ibs, read from file.
