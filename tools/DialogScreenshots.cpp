@@ -1,7 +1,7 @@
 // Takes the pictures of the dialogs for the README: the main window idle with a board named and
 // in the middle of a translation, the Settings pages, the pin mapping dialog, the colour picker
 // and the About box. Run under Xvfb (or QT_QPA_PLATFORM=offscreen):
-//   xvfb-run -a build/tests/dialog_screenshots docs/images
+//   xvfb-run -a build/tools/dialog_screenshots docs/images
 #include <QApplication>
 #include <QDialog>
 #include <QTabWidget>

@@ -1,7 +1,7 @@
 // Drives the real program while it records, in place of a person, so that the sessions kept in
 // tests/data/guireplay/ndd2qfx/ can be recorded again the same way:
 //   NDD2QFX_DRIVE=<session folder>/drive.txt RECFIXPATH=<folder>/session
-//   QT_QPA_PLATFORM=offscreen build/tests/ndd2qfx_session_driver
+//   QT_QPA_PLATFORM=offscreen build/tools/ndd2qfx_session_driver
 // started in a folder that holds the session's inputs. drive.txt holds one step a line,
 // "VERB WINDOW ARGS...", WINDOW being a control of the window the step acts on ("-" for a
 // message box; the forms name their controls "ui_" and the symbol):
