@@ -120,11 +120,6 @@ std::string NetChoice() {
     return s;
 }
 
-std::vector<int> SelectedRows(CUiListCtrl* list) {
-    QVector<int> rows = list->GetSelectedRows();
-    return std::vector<int>(rows.begin(), rows.end());
-}
-
 void Select(CUiListCtrl* list, int row, bool on) {
     list->SetItemSelected(row, on);
     QCoreApplication::processEvents();
@@ -176,7 +171,7 @@ TEST_F(SettingsDialogTest, CancelLeavesTheRecordTheSelectionAndTheColours) {
         TypeTheTable(d.PropertyPage());
         CUiListCtrl* all = d.NetChoicePage().NetList();
         EXPECT_EQ(Rows(d.NetChoicePage().ChoiceList()), std::vector<std::string>{"DATA:2"});
-        EXPECT_EQ(SelectedRows(all), std::vector<int>{1});
+        EXPECT_EQ(all->GetSelectedRows(), QVector<int>{1});
         Select(all, 3, true);
         ClickChosen(d.NetChoicePage(), 1);
         EXPECT_EQ(Rows(d.NetChoicePage().ChoiceList()),
@@ -236,7 +231,7 @@ TEST_F(SettingsDialogTest, ALoadedLogsSelectionShowsAtTheFirstOpeningAndConsumes
             EXPECT_EQ(Rows(d.NetChoicePage().ChoiceList()),
                       (std::vector<std::string>{"VCC:9", "CLK:0"}));
             EXPECT_EQ(Rows(all), (std::vector<std::string>{"CLK:0", "DATA:2", "GND:3", "VCC:9"}));
-            EXPECT_EQ(SelectedRows(all), (std::vector<int>{0, 3}));
+            EXPECT_EQ(all->GetSelectedRows(), QVector<int>({0, 3}));
             EXPECT_EQ(g_options.g_bLogLoaded, 0);
             Press(d, kIdCancel);
         });
