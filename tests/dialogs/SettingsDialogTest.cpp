@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QTabWidget>
 #include <cstdio>
+#include <tuple>
 
 #include "Fixtures.h"
 #include "app/LogLoader.h"
@@ -283,35 +284,33 @@ TEST_F(SettingsDialogTest, TheViaVoidBoxEnablesItsAreaAndShowsOffWithoutAnArea) 
 }
 
 TEST_F(SettingsDialogTest, TheBrowsersAskWithTheirTitlesAndFiltersAndCheckTheLayoutName) {
-    struct Case {
-        int button;
-        const char *chosen, *box, *traceField, *hkpField;
+    // The button, the file chosen ("" cancels), then the box shown and the layout box after it.
+    const std::tuple<int, const char*, const char*> cases[] = {
+        {IDC_BUTTON_TRACE_FILE_BROWSE, "/pcb/traces", "|"},
+        {IDC_BUTTON_TRACE_FILE_BROWSE, "", "|"},
+        {IDC_BUTTON_HKP_FILE_BROWSE, "/pcb/board.hkp", "Please input Layout.hkp file|"},
+        {IDC_BUTTON_HKP_FILE_BROWSE, "layout.hkp", "Input file name invalid|"},
+        {IDC_BUTTON_HKP_FILE_BROWSE, "/pcb/Layout.HKP", "|/pcb/Layout.HKP"},
     };
-    const Case cases[] = {
-        {IDC_BUTTON_TRACE_FILE_BROWSE, "/pcb/traces", "", "/pcb/traces", ""},
-        {IDC_BUTTON_TRACE_FILE_BROWSE, "", "", "/pcb/traces", ""},
-        {IDC_BUTTON_HKP_FILE_BROWSE, "/pcb/board.hkp", "Please input Layout.hkp file",
-         "/pcb/traces", ""},
-        {IDC_BUTTON_HKP_FILE_BROWSE, "layout.hkp", "Input file name invalid", "/pcb/traces", ""},
-        {IDC_BUTTON_HKP_FILE_BROWSE, "/pcb/Layout.HKP", "", "/pcb/traces", "/pcb/Layout.HKP"},
-    };
-    for (const Case& c : cases) answers.files.push_back(c.chosen);
+    for (const auto& [button, chosen, shown] : cases) answers.files.push_back(chosen);
     Run([&](CNdd2QfxSetting& d) {
         CDialogProperty& page = d.PropertyPage();
-        for (const Case& c : cases) {
+        for (const auto& [button, chosen, shown] : cases) {
             CMessageBoxAnswers boxes;
-            static_cast<CUiButton*>(page.GetDlgItem(c.button))->Click();
-            EXPECT_EQ(boxes.Shown().empty() ? "" : boxes.Shown()[0].text, c.box) << c.chosen;
-            EXPECT_EQ(page.GetDlgItemText(IDC_EDIT_TRACE_FILE_PATH), c.traceField) << c.chosen;
-            EXPECT_EQ(page.GetDlgItemText(IDC_EDIT_HKP_FILE_PATH), c.hkpField) << c.chosen;
+            static_cast<CUiButton*>(page.GetDlgItem(button))->Click();
+            EXPECT_EQ((boxes.Shown().empty() ? "" : boxes.Shown()[0].text) + "|" +
+                          page.GetDlgItemText(IDC_EDIT_HKP_FILE_PATH),
+                      shown)
+                << chosen;
         }
         Press(d, kIdOk);
     });
     const std::string trace = "open Select Input Board Station Trace File.|trace Files (*.*)|";
     const std::string hkp = "open Select Input Board Station Trace File.|Layout.hkp Files (*.hkp)|";
     EXPECT_EQ(answers.Requests(), (std::vector<std::string>{trace, trace, hkp, hkp, hkp}));
-    EXPECT_EQ(g_options.g_strTraceFile, "/pcb/traces");
-    EXPECT_EQ(g_options.g_strHkpFile, "/pcb/Layout.HKP");
+    // The cancelled and the refused choices left the fields as they were.
+    EXPECT_EQ(g_options.g_strTraceFile + " " + g_options.g_strHkpFile,
+              "/pcb/traces /pcb/Layout.HKP");
 }
 
 TEST_F(SettingsDialogTest, TabsUnderTheTitleAndTheHelpFormOfEach) {
