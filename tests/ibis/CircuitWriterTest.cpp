@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
+
+#include "DataCases.h"
 #include "TestSupport.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/CircuitWriter.h"
@@ -8,7 +12,10 @@
 #include "model/TranslationOptions.h"
 
 using testing_support::CaptureOutput;
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
+using testing_support::SplitLines;
 
 namespace {
 
@@ -39,38 +46,31 @@ class CircuitWriterTest : public ::testing::Test {
         &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
 };
 
-// One two-pin part and the block it gets: the name is the part number and the value (or the
-// package), marks become "_", the affix leads; the element line follows the kind.
-TEST_F(CircuitWriterTest, TwoPinPartsGiveTheseBlocks) {
-    const struct {
-        const char *refDes, *partNumber, *value, *affix;
-        std::vector<std::string> pins;
-        const char* block;
-    } rows[] = {
-        {"R1",
-         "RES",
-         "10K",
-         "",
-         {"1", "2"},
-         ".PartialCkt  RES_10K ExtNode = 1 2\nR 1 2 10K\n.EndPartialCkt\n"},
-        {"C1",
-         "CAP,X",
-         "4.7uF",
-         "A_",
-         {"2", "1"},
-         ".PartialCkt  A_CAP_X_4_7u ExtNode = 1 2\nC 2 1 4.7u\n.EndPartialCkt\n"},
-        {"X1", "PN", "", "", {"1", "2"}, ".PartialCkt  PN_PKG ExtNode = 1 2\n.EndPartialCkt\n"},
-    };
-    for (const auto& row : rows) {
+// Components, one a line as "designator part-number value pins..." ("-" for no value), and
+// the circuit section they give, written twice; "affix=TEXT" sets the name affix, "links=TW"
+// the two linkage switches (translate, write).
+TEST_F(CircuitWriterTest, PartsGiveTheseBlocks) {
+    for (const DataCase& c : DataCases("ibis/CircuitWriter/Parts.txt")) {
         SetUp();
-        g_options.g_strNameAffix = row.affix;
-        AddComponent(row.refDes, row.partNumber, row.value, row.pins);
+        for (const std::string& arg : c.args) {
+            if (arg.rfind("affix=", 0) == 0) g_options.g_strNameAffix = arg.substr(6);
+            if (arg.rfind("links=", 0) == 0) {
+                g_options.g_bTranslateLinkages = arg[6] - '0';
+                g_options.g_bWriteLinkages = arg[7] - '0';
+            }
+        }
+        for (const std::string& line : SplitLines(c.input)) {
+            std::istringstream words(line);
+            std::string refDes, partNumber, value;
+            words >> refDes >> partNumber >> value;
+            AddComponent(refDes, partNumber, value == "-" ? "" : value,
+                         {std::istream_iterator<std::string>(words), {}});
+        }
         ModelAssignment assignment{
             &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
         assignment.ResolveModels();
-        const std::string want = std::string("* Circuit description block\n") + row.block + "\n";
-        EXPECT_EQ(Circuit(assignment), want) << row.refDes;
-        EXPECT_EQ(Circuit(assignment), want) << "the second writing of " << row.refDes;
+        EXPECT_EQ(Circuit(assignment), c.expected) << c.title;
+        EXPECT_EQ(Circuit(assignment), c.expected) << "again: " << c.title;
     }
 }
 
@@ -118,20 +118,6 @@ TEST_F(CircuitWriterTest, TerminalsAreSortedAndWrapPastSeventyFiveCharacters) {
     EXPECT_EQ(PassiveBlockText(d), ".PartialCkt  B ExtNode = 1 10 2 A a b\n.EndPartialCkt\n");
 }
 
-TEST_F(CircuitWriterTest, NeighbouringEqualBlocksArePrintedOnce) {
-    // "A,B" and "A_B" give different block names but the same printed text.
-    AddComponent("R1", "A,B", "1K", {"1", "2"});
-    AddComponent("R2", "A_B", "1K", {"1", "2"});
-    models.ResolveModels();
-    ASSERT_EQ(models.blocks.Size(), 2u);
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  A_B_1K ExtNode = 1 2\n"
-              "R 1 2 1K\n"
-              ".EndPartialCkt\n"
-              "\n");
-}
-
 TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
     ComponentRec a, b, other;
     a.blockName = b.blockName = "SAME";
@@ -151,15 +137,6 @@ TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
     std::string text = Circuit(models);
     EXPECT_EQ(text, "* Circuit description block\n" + same +
                         ".PartialCkt  OTHER ExtNode = 1 2\n.EndPartialCkt\n" + same + "\n");
-}
-
-TEST_F(CircuitWriterTest, BothLinkageOptionsOffPrintNothing) {
-    AddComponent("R1", "RES", "10K", {"1", "2"});
-    models.ResolveModels();
-    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
-    EXPECT_EQ(Circuit(models), "");
-    g_options.g_bTranslateLinkages = 1;
-    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
 }
 
 // A three-pin IBIS part: two signal pins with models and a power pin.
