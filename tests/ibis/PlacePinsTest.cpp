@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <sstream>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "ibis/Parts.h"
@@ -10,7 +12,10 @@
 #include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
+using testing_support::SplitLines;
 
 namespace {
 
@@ -56,7 +61,8 @@ class PlacePinsTest : public ::testing::Test {
         return c.pins.back();
     }
     // The nodes as "layer x,y net label mMIRRORED cCONTACT rROTATION padstack", then the vias
-    // as "via x Lstart-end net nNOCONTACT rROTATION padstack drill", and the pins as
+    // as "via x Lstart-end net nNOCONTACT rROTATION padstack drill/padstack-drill of
+    // drills", and the pins as
     // "pin name node hasNode padstack".
     static std::string Placed() {
         auto num = [](double v) {
@@ -78,7 +84,9 @@ class PlacePinsTest : public ::testing::Test {
             t += "via " + num(v.x) + " L" + std::to_string(v.startLayer) + "-" +
                  std::to_string(v.endLayer) + " " + net(v.net) + " n" +
                  std::to_string(v.noContact) + " r" + num(v.rotation) + " " + stack(v.padStack) +
-                 " " + num(g_model.g_aDrillRadii.at(v.drillIndex).radius) + "\n";
+                 " " + num(g_model.g_aDrillRadii.at(v.drillIndex).radius) + "/" +
+                 num(v.padStack->drill) + " of " + std::to_string(g_model.g_aDrillRadii.size()) +
+                 "\n";
         for (const std::string& key : g_model.g_mapComponents.Keys())
             for (const PinRec& pin : g_model.g_mapComponents.Find(key)->pins)
                 t += "pin " + key + "." + pin.name + " " + pin.nodeId + " h" +
@@ -87,16 +95,35 @@ class PlacePinsTest : public ::testing::Test {
     }
 };
 
-TEST_F(PlacePinsTest, TopSurfacePinBecomesANodeOnThePadstackLayer) {
-    AddPin(Part("R1", 30.0, "%topplace "), "1", "SMD", "N2", 1.5, -0.5, 350.0);
-    ASSERT_EQ(PlacePins(), 1);
-    EXPECT_EQ(Placed(), "node L0 11.5,19.5 N2 1 m0 c1 r20 SMD\npin R1.1 0 h1 SMD\n");
-}
-
-TEST_F(PlacePinsTest, BottomPinIsMirroredInXAndLiesOnTheBottomConductor) {
-    AddPin(Part("C2", 0.0, "%bottomplace "), "2", "SMD", "N1", 1.5, -0.5, 0.0);
-    ASSERT_EQ(PlacePins(), 1);
-    EXPECT_EQ(Placed(), "node L2 8.5,19.5 N1 2 m1 c1 r0 SMD\npin C2.2 0 h1 SMD\n");
+// Components at (10, 20) and their pins, one a line: "part DESIGNATOR ROTATION PLACEMENT"
+// and "pin NAME PADSTACK NET X Y ROTATION" ("-" for no net); "nonet" includes no-net
+// elements, "area" limits the work to 0..30 mm. Expected: what Placed() shows.
+TEST_F(PlacePinsTest, PinsGiveTheseNodesAndVias) {
+    for (const DataCase& c : DataCases("ibis/PlacePins/Pins.txt")) {
+        SetUp();
+        for (const std::string& arg : c.args) {
+            if (arg == "nonet") g_options.g_nIncludeNoNetEtches = 1;
+            if (arg == "area") g_options.g_bSpatialLimit = 1;
+        }
+        g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 30.0;
+        ComponentRec* part = nullptr;
+        for (const std::string& line : SplitLines(c.input)) {
+            std::istringstream words(line);
+            std::string kind, name, word;
+            double x = 0, y = 0, rotation = 0;
+            words >> kind >> name;
+            if (kind == "part") {
+                words >> rotation >> word;
+                part = &Part(name, rotation, word == "-" ? "" : "%" + word + " ");
+            } else {
+                std::string net;
+                words >> word >> net >> x >> y >> rotation;
+                AddPin(*part, name, word, net == "-" ? "" : net, x, y, rotation);
+            }
+        }
+        ASSERT_EQ(PlacePins(), 1) << c.title;
+        EXPECT_EQ(Placed(), c.expected) << c.title;
+    }
 }
 
 TEST_F(PlacePinsTest, RotationsAreReducedByTheirOddRule) {
@@ -110,39 +137,6 @@ TEST_F(PlacePinsTest, RotationsAreReducedByTheirOddRule) {
         ASSERT_EQ(g_model.g_setNodes.size(), 1u);
         EXPECT_EQ(g_model.g_setNodes.begin()->rotation, sum[1]) << sum[0];
     }
-}
-
-// The no-connect pin still has its node, with no net.
-TEST_F(PlacePinsTest, DrilledPinAddsAViaThroughTheStackWithItsDrill) {
-    g_options.g_nIncludeNoNetEtches = 1;
-    ComponentRec& c = Part("J1", 0.0, "%topplace ");
-    AddPin(c, "1", "TH_1", "N1", 0.0, 0.0, 90.0);
-    AddPin(c, "2", "TH_1", "%no_connect", 2.54, 0.0, 0.0);
-    ASSERT_EQ(PlacePins(), 1);
-    EXPECT_EQ(Placed(),
-              "node L0 10,20 N1 1 m0 c1 r90 TH 1\n"
-              "node L0 12.539999999999999,20 nonet 2 m0 c1 r0 TH 1\n"
-              "via 10 L0-2 N1 n0 r90 TH 1 0.14999999999999999\n"
-              "via 12.539999999999999 L0-2 nonet n1 r0 TH 1 0.14999999999999999\n"
-              "pin J1.1 0 h1 TH 1\npin J1.2 1 h1 TH 1\n");
-    EXPECT_EQ(g_model.g_aDrillRadii.size(), 1u);
-    EXPECT_EQ(g_model.g_padStacks.Find("TH_1")->drill, 0.15);
-}
-
-TEST_F(PlacePinsTest, PinsWithoutNetPadstackOrPlaceAreSkipped) {
-    ComponentRec& c = Part("U1", 0.0, "%topplace ");
-    AddPin(c, "1", "SMD", "", 0.0, 0.0, 0.0);
-    AddPin(c, "2", "SMD", "%no_connect", 1.0, 0.0, 0.0);
-    AddPin(c, "3", "NOPE", "N1", 2.0, 0.0, 0.0);
-    AddPin(c, "4", "SMD", "N1", 50.0, 0.0, 0.0);
-    AddPin(Part("U2", 0.0, ""), "1", "SMD", "N1", 0.0, 0.0, 0.0);
-    g_options.g_bSpatialLimit = 1;
-    g_model.g_dbWorkMinX = g_model.g_dbWorkMinY = 0.0;
-    g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 30.0;
-    ASSERT_EQ(PlacePins(), 1);
-    EXPECT_EQ(Placed(),
-              "pin U1.1  h0 -\npin U1.2  h0 -\npin U1.3  h0 -\npin U1.4  h0 SMD\n"
-              "pin U2.1  h0 -\n");
 }
 
 TEST_F(PlacePinsTest, AStackWithADielectricOnTopRunsFromOneToTheLastButOne) {
