@@ -77,7 +77,7 @@ class PlacePinsTest : public ::testing::Test {
         std::string t;
         for (const NodeRec& n : g_model.g_setNodes)
             t += "node L" + std::to_string(n.layer) + " " + num(n.x) + "," + num(n.y) + " " +
-                 net(n.net) + " " + n.label + " m" + std::to_string(n.mirrored) + " c" +
+                 net(n.net) + " " + n.label.str() + " m" + std::to_string(n.mirrored) + " c" +
                  std::to_string(n.contact) + " r" + num(n.rotation) + " " + stack(n.padStack) +
                  "\n";
         for (const ViaRec& v : g_model.g_aVias)
