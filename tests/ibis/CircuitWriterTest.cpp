@@ -74,48 +74,25 @@ TEST_F(CircuitWriterTest, PartsGiveTheseBlocks) {
     }
 }
 
-TEST_F(CircuitWriterTest, ElementLineBreaksBehindEveryTenthName) {
-    ComponentRec c;
-    c.kind = "R";
-    c.value = "1K";
-    for (int i = 1; i <= 12; ++i) {
-        PinRec pin;
-        pin.name = std::to_string(i);
-        c.pins.push_back(pin);
+// A passive part as "element KIND VALUE PINS..." ("-" for no value) and its element line, or
+// as "block NAME PINS..." and its block.
+TEST(PassiveText, PartsGiveTheseLines) {
+    for (const DataCase& c : DataCases("ibis/CircuitWriter/Passive.txt")) {
+        std::istringstream words(c.input);
+        std::string form, first, second;
+        ComponentRec part;
+        words >> form >> first;
+        if (form == "element") {
+            words >> second;
+            part.kind = first;
+            part.value = second == "-" ? "" : second;
+        } else {
+            part.blockName = first;
+        }
+        for (std::string name; words >> name;) part.pins.emplace_back().name = name;
+        EXPECT_EQ(form == "element" ? PassiveElementLine(part) : PassiveBlockText(part), c.expected)
+            << c.title;
     }
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10\n+ 11 12 1K\n");
-    c.pins.resize(10);
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10 1K\n");
-    c.value.clear();
-    c.pins.resize(2);
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 \n");
-    c.kind = "?";
-    EXPECT_EQ(PassiveElementLine(c), "");
-}
-
-TEST_F(CircuitWriterTest, TerminalsAreSortedAndWrapPastSeventyFiveCharacters) {
-    ComponentRec c;
-    c.blockName = "BLOCK";
-    for (int i = 12; i >= 1; --i) {
-        PinRec pin;
-        char name[16];
-        std::snprintf(name, sizeof name, "PIN_%02d", i);
-        pin.name = name;
-        c.pins.push_back(pin);
-    }
-    // 28 characters before the names; the seventh name brings the line to 77.
-    EXPECT_EQ(PassiveBlockText(c),
-              ".PartialCkt  BLOCK ExtNode = PIN_01 PIN_02 PIN_03 PIN_04 PIN_05 PIN_06 PIN_07\n"
-              "+ PIN_08 PIN_09 PIN_10 PIN_11 PIN_12\n"
-              ".EndPartialCkt\n");
-    ComponentRec d;
-    d.blockName = "B";
-    for (const char* name : {"b", "10", "A", "2", "a", "1"}) {
-        PinRec pin;
-        pin.name = name;
-        d.pins.push_back(pin);
-    }
-    EXPECT_EQ(PassiveBlockText(d), ".PartialCkt  B ExtNode = 1 10 2 A a b\n.EndPartialCkt\n");
 }
 
 TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
