@@ -3,6 +3,7 @@
 // be written in C++. A line "== TITLE" opens a case; its input lines follow up to a line that
 // begins with "--", whose other words are the case's arguments; the expected lines run up to
 // the next "==" line. A "--|" line instead of "--" ends the input without its last line feed.
+#include <cstdio>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -10,6 +11,13 @@
 #include "TestSupport.h"
 
 namespace testing_support {
+
+// Every digit of a number, so that a data file compares it exactly.
+inline std::string Exact(double v) {
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%.17g", v);
+    return buf;
+}
 
 struct DataCase {
     std::string title, input, expected;

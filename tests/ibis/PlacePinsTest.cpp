@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <sstream>
 
 #include "DataCases.h"
@@ -65,28 +64,24 @@ class PlacePinsTest : public ::testing::Test {
     // drills", and the pins as
     // "pin name node hasNode padstack".
     static std::string Placed() {
-        auto num = [](double v) {
-            char buf[32];
-            std::snprintf(buf, sizeof buf, "%.17g", v);
-            return std::string(buf);
-        };
         auto net = [](int32_t n) {
             return n == kNoNet ? std::string("nonet") : g_model.g_strNetNames[n].name;
         };
         auto stack = [](const PadStackRec* s) { return s ? s->name : std::string("-"); };
         std::string t;
         for (const NodeRec& n : g_model.g_setNodes)
-            t += "node L" + std::to_string(n.layer) + " " + num(n.x) + "," + num(n.y) + " " +
-                 net(n.net) + " " + n.label.str() + " m" + std::to_string(n.mirrored) + " c" +
-                 std::to_string(n.contact) + " r" + num(n.rotation) + " " + stack(n.padStack) +
-                 "\n";
+            t += "node L" + std::to_string(n.layer) + " " + testing_support::Exact(n.x) + "," +
+                 testing_support::Exact(n.y) + " " + net(n.net) + " " + n.label.str() + " m" +
+                 std::to_string(n.mirrored) + " c" + std::to_string(n.contact) + " r" +
+                 testing_support::Exact(n.rotation) + " " + stack(n.padStack) + "\n";
         for (const ViaRec& v : g_model.g_aVias)
-            t += "via " + num(v.x) + " L" + std::to_string(v.startLayer) + "-" +
+            t += "via " + testing_support::Exact(v.x) + " L" + std::to_string(v.startLayer) + "-" +
                  std::to_string(v.endLayer) + " " + net(v.net) + " n" +
-                 std::to_string(v.noContact) + " r" + num(v.rotation) + " " + stack(v.padStack) +
-                 " " + num(g_model.g_aDrillRadii.at(v.drillIndex).radius) + "/" +
-                 num(v.padStack->drill) + " of " + std::to_string(g_model.g_aDrillRadii.size()) +
-                 "\n";
+                 std::to_string(v.noContact) + " r" + testing_support::Exact(v.rotation) + " " +
+                 stack(v.padStack) + " " +
+                 testing_support::Exact(g_model.g_aDrillRadii.at(v.drillIndex).radius) + "/" +
+                 testing_support::Exact(v.padStack->drill) + " of " +
+                 std::to_string(g_model.g_aDrillRadii.size()) + "\n";
         for (const std::string& key : g_model.g_mapComponents.Keys())
             for (const PinRec& pin : g_model.g_mapComponents.Find(key)->pins)
                 t += "pin " + key + "." + pin.name + " " + pin.nodeId + " h" +

@@ -17,13 +17,6 @@ using namespace testing_support;
 
 namespace {
 
-// Every digit of a number, so that the data files compare it exactly.
-std::string Num(double v) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%.17g", v);
-    return buf;
-}
-
 std::string Words(const std::vector<std::string>& words) {
     std::string t;
     for (const std::string& w : words) t += (t.empty() ? "" : " ") + w;
@@ -38,17 +31,17 @@ std::string RecordText(const std::string& arg) {
         if (!pad || !pad->boundary) return arg + (pad ? " empty" : " none");
         const PadBoundaryRec& b = *pad->boundary;
         std::string t = arg + " s" + std::to_string(b.nShape) + " p" + std::to_string(b.polarity) +
-                        " " + Num(b.x) + "," + Num(b.y) + " r" + Num(b.dbRadius) + " e" +
-                        Num(b.dbEquivalentRadius);
-        for (const auto& p : b.points) t += " " + Num(p.first) + "," + Num(p.second);
+                        " " + Exact(b.x) + "," + Exact(b.y) + " r" + Exact(b.dbRadius) + " e" +
+                        Exact(b.dbEquivalentRadius);
+        for (const auto& p : b.points) t += " " + Exact(p.first) + "," + Exact(p.second);
         return t;
     }
     PadStackSizeRec* const* size = g_model.g_mapPadStackSizes.Find(arg);
     if (!size) return arg + " none";
     const PadStackSizeRec& s = **size;
     return arg + " t" + std::to_string(s.nType) + " h" + std::to_string(s.nHasType) + " v" +
-           std::to_string(s.nViaRule) + " r" + Num(s.dbMinRadius) + " " + Words(s.lstRoundCorners) +
-           " " + Words(s.lstLibLayers);
+           std::to_string(s.nViaRule) + " r" + Exact(s.dbMinRadius) + " " +
+           Words(s.lstRoundCorners) + " " + Words(s.lstLibLayers);
 }
 
 class PadStackSizesTest : public ::testing::Test {

@@ -19,6 +19,7 @@ namespace {
 
 using testing_support::DataCase;
 using testing_support::DataCases;
+using testing_support::Exact;
 using testing_support::ScratchDir;
 
 constexpr int32_t kGnd = 0;
@@ -54,12 +55,6 @@ class ThermalTiesTest : public ::testing::Test {
     ScratchDir dir_;
 };
 
-std::string Num(double v) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%.17g", v);
-    return buf;
-}
-
 // Each tie as "x,y wWIDTH LLAYER cCOLOUR NET fFLAGS" at the far end, where it reaches; then
 // the kind of the GND layer and the tie types read.
 std::string TiesText() {
@@ -69,7 +64,7 @@ std::string TiesText() {
     for (size_t i = 0; i < g_model.g_aTraces.size(); ++i) {
         const TraceRec& tie = g_model.g_aTraces[i];
         const NodeRec* end = NodeById(tie.endNode);
-        t += Num(end->x) + "," + Num(end->y) + " w" + Num(tie.width) + " L" +
+        t += Exact(end->x) + "," + Exact(end->y) + " w" + Exact(tie.width) + " L" +
              std::to_string(tie.layer) + " c" + std::to_string(tie.color) + " " +
              g_model.g_strNetNames[g_model.g_aTraceNets[i]].name + " f" +
              std::to_string(g_model.g_aTraceFlags[i]) + "\n";
@@ -79,7 +74,7 @@ std::string TiesText() {
     for (const std::string& key : g_model.g_mapThermalTieTypes.Keys()) {
         const ThermalTieTypeRec* type = g_model.g_mapThermalTieTypes.Find(key);
         t += " " + key + ":" + std::to_string(type->nValue1) + "," + std::to_string(type->nValue2) +
-             "," + Num(type->dbValue);
+             "," + Exact(type->dbValue);
     }
     return t + "\n";
 }

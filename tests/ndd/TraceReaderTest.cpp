@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 #include "DataCases.h"
 #include "Fixtures.h"
 #include "RecordingHost.h"
@@ -26,12 +24,6 @@ void MakeBoard() {
     g_model.g_dbLengthScale = 1.0;
 }
 
-std::string Num(double v) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%.17g", v);
-    return buf;
-}
-
 // The traces as "Llayer x,y-x,y wWIDTH".
 std::string TracesText() {
     RebuildNodeArray();
@@ -40,8 +32,8 @@ std::string TracesText() {
     for (const TraceRec& trace : g_model.g_aTraces) {
         const NodeRec* a = NodeById(trace.startNode);
         const NodeRec* b = NodeById(trace.endNode);
-        t += "L" + std::to_string(trace.layer) + " " + Num(a->x) + "," + Num(a->y) + "-" +
-             Num(b->x) + "," + Num(b->y) + " w" + Num(trace.width) + "\n";
+        t += "L" + std::to_string(trace.layer) + " " + Exact(a->x) + "," + Exact(a->y) + "-" +
+             Exact(b->x) + "," + Exact(b->y) + " w" + Exact(trace.width) + "\n";
     }
     return t;
 }

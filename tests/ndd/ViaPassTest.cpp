@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include "DataCases.h"
@@ -23,15 +22,9 @@ namespace {
 // TOP, D1, GND, D2, BOT in TN units; nets N1 and N2.
 const std::string kBoard = testing_support::DataFile("ndd/ViaPass/board.ndd");
 
-std::string Num(double v) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%.17g", v);
-    return buf;
-}
-
 // A via as "x,y rROTATION Lstart-end net nNOCONTACT dDRILLINDEX padstack".
 std::string ViaText(const ViaRec& v) {
-    return Num(v.x) + "," + Num(v.y) + " r" + Num(v.rotation) + " L" +
+    return Exact(v.x) + "," + Exact(v.y) + " r" + Exact(v.rotation) + " L" +
            std::to_string(v.startLayer) + "-" + std::to_string(v.endLayer) + " " +
            (v.net == kNoNet ? std::string("nonet") : g_model.g_strNetNames[v.net].name) + " n" +
            std::to_string(v.noContact) + " d" + std::to_string(v.drillIndex) + " " +
@@ -44,10 +37,10 @@ std::string ViasText() {
     for (const ViaRec& v : g_model.g_aVias) t += ViaText(v) + "\n";
     t += "drills";
     for (const DrillRadius& d : g_model.g_aDrillRadii)
-        t += " " + Num(d.radius) + ":" + std::to_string(d.index);
+        t += " " + Exact(d.radius) + ":" + std::to_string(d.index);
     t += "\npadstacks";
     for (const std::string& key : g_model.g_padStacks.Keys())
-        t += " " + key + ":" + Num(g_model.g_padStacks.Find(key)->drill);
+        t += " " + key + ":" + Exact(g_model.g_padStacks.Find(key)->drill);
     return t + "\n";
 }
 
