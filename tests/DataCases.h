@@ -3,6 +3,7 @@
 // be written in C++. A line "== TITLE" opens a case; its input lines follow up to a line that
 // begins with "--", whose other words are the case's arguments; the expected lines run up to
 // the next "==" line. A "--|" line instead of "--" ends the input without its last line feed.
+#include <algorithm>
 #include <cstdio>
 #include <sstream>
 #include <string>
@@ -22,6 +23,9 @@ inline std::string Exact(double v) {
 struct DataCase {
     std::string title, input, expected;
     std::vector<std::string> args;
+    bool Has(const std::string& word) const {
+        return std::find(args.begin(), args.end(), word) != args.end();
+    }
 };
 
 inline std::vector<DataCase> DataCases(const std::string& name) {

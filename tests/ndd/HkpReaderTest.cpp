@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
@@ -41,11 +39,8 @@ TEST_F(HkpReaderTest, AreasGiveTheseShapes) {
     for (const testing_support::DataCase& c :
          testing_support::DataCases("ndd/HkpReader/Areas.txt")) {
         SetUp();
-        auto has = [&](const char* word) {
-            return std::find(c.args.begin(), c.args.end(), word) != c.args.end();
-        };
-        g_options.g_nIncludeNoNetEtches = has("nonet");
-        if (has("onlyvcc")) {
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("onlyvcc")) {
             g_options.g_bSelectedOnly = 1;
             g_options.g_bAllNets = 0;
             g_options.g_nSelectedNetCount = 1;

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "DataCases.h"
@@ -44,11 +43,8 @@ TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
     for (const testing_support::DataCase& c :
          testing_support::DataCases("ndd/ShapeRecords/Records.txt")) {
         SetUp();
-        auto has = [&](const char* word) {
-            return std::find(c.args.begin(), c.args.end(), word) != c.args.end();
-        };
-        g_options.g_nIncludeNoNetEtches = has("nonet");
-        if (has("onlyvcc")) {
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("onlyvcc")) {
             g_options.g_nSelectedNetCount = 1;
             g_options.g_pSelectedNets = {1};
             SetNetSelectionMode();

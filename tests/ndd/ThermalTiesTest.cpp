@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdio>
 
 #include "DataCases.h"
@@ -85,16 +84,13 @@ std::string TiesText() {
 TEST_F(ThermalTiesTest, TieRecordsGiveTheseTies) {
     for (const DataCase& c : DataCases("ndd/ThermalTies/Ties.txt")) {
         SetUp();
-        auto has = [&](const char* word) {
-            return std::find(c.args.begin(), c.args.end(), word) != c.args.end();
-        };
-        if (has("fill")) Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
-        if (has("split")) Fill(0, 0, 5.5, 10, kGnd, kPolarityCopper);
-        if (has("split")) Fill(5.5, 0, 10, 10, kVcc, kPolarityCopper);
-        if (has("vcc")) Fill(0, 0, 10, 10, kVcc, kPolarityCopper);
+        if (c.Has("fill")) Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
+        if (c.Has("split")) Fill(0, 0, 5.5, 10, kGnd, kPolarityCopper);
+        if (c.Has("split")) Fill(5.5, 0, 10, 10, kVcc, kPolarityCopper);
+        if (c.Has("vcc")) Fill(0, 0, 10, 10, kVcc, kPolarityCopper);
         SortShapes();
-        g_options.g_nIncludeNoNetEtches = has("nonet");
-        if (has("onlygnd")) {
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("onlygnd")) {
             g_options.g_bSelectedOnly = 1;
             g_options.g_bAllNets = 0;
             g_options.g_nSelectedNetCount = 1;

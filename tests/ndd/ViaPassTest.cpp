@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 #include "DataCases.h"
@@ -55,16 +54,13 @@ class ViaPassTest : public ::testing::Test {
 TEST_F(ViaPassTest, RecordsGiveTheseVias) {
     for (const DataCase& c : DataCases("ndd/ViaPass/Records.txt")) {
         SetUp();
-        auto has = [&](const char* word) {
-            return std::find(c.args.begin(), c.args.end(), word) != c.args.end();
-        };
-        g_options.g_nIncludeNoNetEtches = has("nonet");
-        if (has("area")) {
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("area")) {
             g_options.g_bSpatialLimit = 1;
             g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 1.0;
         }
         ForgetNddInput();
-        std::string path = dir_.Write("board.ndd", (has("alone") ? "" : kBoard) + c.input);
+        std::string path = dir_.Write("board.ndd", (c.Has("alone") ? "" : kBoard) + c.input);
         ASSERT_EQ(ParseLayer(path), 1);
         ParseNet(*OpenNdd(path));
         ParsePadDefData(path);
