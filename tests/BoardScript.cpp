@@ -1,0 +1,378 @@
+// The commands of a board script. Nets are names of the net table, "-" for none (65535),
+// "alt" for the other no-net value (65534) or numbers; polarity is + (copper), - (void) or
+// s (split); points are x,y.
+//   board S:TOP D:D1 P:GND       the layer stack, top first (thickness 0.035 mm)
+//   nets A B | display NET NAME  the net table; a net's display name
+//   set OPTION VALUE             a translation option by its field name; "tiny L" the tiny-trace
+//   limit polygon L POL NET x,y...  square L POL NET X Y SIDE  circle L POL NET X Y R last FIELD
+//   VALUE             undiscardable, discarded or area of the last shape trace L X1 Y1 X2 Y2 NET
+//   [W]  a trace between two new nodes; "readtrace" as the reader adds one traceset T FIELD VALUE
+//   flag or width ("deleted") of trace T stack NAME DRILL             a padstack; pad LAYER SHAPE W
+//   H [OX OY] adds an entry ("-": none), anti SHAPE W H [OX OY]       its anti pad, points x,y...
+//   the last pad's points via X Y NET START END STACK [rot=R] [nocontact=1] node X Y L NET CONTACT
+//   [STACK ROT] [label=L] [mirrored=M]   vianode X Y L NET CONTACT VIAREF nodeset ID FIELD VALUE
+//   label, traceRefs or viaRefs of a node of the flat array logfile                      a
+//   translation log to catch warnings run PASS                     sort, vias, rebuild, makenode,
+//   flip, voidcheck, kickout, tiny,
+//                                gaps, round, separate, clean N, nullstreams (the padstack
+//                                writers on no stream)
+//   quiet COMMAND                the command, its output not compared
+//   write SECTION                library, mirrored, packageend, shapes, layers, nodes, traces, vias
+//   print WHAT                   shapes, flags, state, log, node L X Y (one node as
+//                                "#id Llayer x,y net contact traceRefs viaRefs [label]
+//                                [pad@rotation]")
+#include "BoardScript.h"
+
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <sstream>
+#include <variant>
+
+#include "Fixtures.h"
+#include "TestSupport.h"
+#include "geometry/CheckUndiscardableVoids.h"
+#include "geometry/CleanPolygon.h"
+#include "geometry/FinishShapes.h"
+#include "geometry/MakeNode.h"
+#include "geometry/SeparateTouchingEdges.h"
+#include "geometry/ShapeCleanupRound.h"
+#include "geometry/TraceCleanup.h"
+#include "model/TranslationOptions.h"
+#include "ndd/TraceReader.h"
+#include "qfx/LayerWriter.h"
+#include "qfx/MakeVias.h"
+#include "qfx/NodeWriter.h"
+#include "qfx/PadStackSection.h"
+#include "qfx/ShapeWriter.h"
+#include "qfx/Skeleton.h"
+#include "qfx/TraceWriter.h"
+#include "qfx/ViaWriter.h"
+
+namespace board_script {
+namespace {
+
+using Words = std::vector<std::string>;
+using Option = std::variant<int32_t TranslationOptions::*, double TranslationOptions::*,
+                            std::string TranslationOptions::*>;
+#define OPTION(f) \
+    { #f, &TranslationOptions::f }
+const std::map<std::string, Option> kOptions = {OPTION(g_nTranslatePads),
+                                                OPTION(g_bAllowPatches),
+                                                OPTION(g_bAddPseudoPlane),
+                                                OPTION(g_nIncludeNoNetEtches),
+                                                OPTION(g_bAppendNetName),
+                                                OPTION(g_strNameAffix),
+                                                OPTION(g_bColorShapesByNet),
+                                                OPTION(g_dbVoidAreaLimit),
+                                                OPTION(g_dbViaVoidArea),
+                                                OPTION(g_bExcludeVoidEnclosingVia),
+                                                OPTION(g_strTraceGapPercent),
+                                                OPTION(g_dbDrillClearance),
+                                                OPTION(g_dbGapAroundAreaFillOnPlaneLayers)};
+#undef OPTION
+
+double Num(const std::string& word) {
+    return std::strtod(word.c_str(), nullptr);
+}
+
+int32_t Net(const std::string& word) {
+    if (word == "-") return kNoNet;
+    if (word == "alt") return kNoNetAlt;
+    if (word.find_first_not_of("0123456789") == std::string::npos) return std::atoi(word.c_str());
+    return NetIndexByName(word);
+}
+
+int32_t Polarity(const std::string& word) {
+    return word == "-" ? kPolarityVoid : word == "s" ? kPolaritySplit : kPolarityCopper;
+}
+
+std::vector<ShapePoint> Points(const Words& w, size_t from) {
+    std::vector<ShapePoint> points;
+    for (size_t i = from; i < w.size(); ++i)
+        points.push_back({Num(w[i]), Num(w[i].substr(w[i].find(',') + 1))});
+    return points;
+}
+
+// key=value words after the fixed arguments.
+std::string Extra(const Words& w, const std::string& key, const std::string& otherwise = "") {
+    for (const std::string& word : w)
+        if (word.compare(0, key.size() + 1, key + "=") == 0) return word.substr(key.size() + 1);
+    return otherwise;
+}
+
+std::shared_ptr<PadDefRec> PadDef(const Words& w, size_t at) {
+    auto pad = std::make_shared<PadDefRec>();
+    pad->shapeName = w[at];
+    pad->width = Num(w[at + 1]);
+    pad->height = Num(w[at + 2]);
+    if (w.size() > at + 4) pad->offsetX = Num(w[at + 3]), pad->offsetY = Num(w[at + 4]);
+    return pad;
+}
+
+std::string NodeText(const NodeRec* n) {
+    if (!n) return "none\n";
+    char buf[160];
+    std::snprintf(buf, sizeof buf, "#%u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
+                  n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
+    std::string text = buf;
+    if (!n->label.empty()) text += " " + n->label;
+    if (n->padStack) text += " " + n->padStack->name + "@" + std::to_string(n->rotation);
+    return text + "\n";
+}
+
+// Each trace as "start-end", "x" before a deleted one; then each node's trace references.
+std::string TraceState() {
+    std::string t;
+    for (const TraceRec& tr : g_model.g_aTraces)
+        t += (tr.width == kDeletedTraceWidth ? "x" : "") + std::to_string(tr.startNode) + "-" +
+             std::to_string(tr.endNode) + " ";
+    t += "|";
+    for (size_t id = 0; id < g_model.g_aNodes.size(); ++id)
+        t += " " + std::to_string(NodeById(static_cast<int32_t>(id))->traceRefs);
+    return t + "\n";
+}
+
+// Shape by shape: the undiscardable and discarded flags.
+std::string Flags() {
+    std::string t;
+    for (const ShapeRec& s : g_model.g_aShapes)
+        t += "u" + std::to_string(s.undiscardable) + " d" + std::to_string(s.discarded) + "\n";
+    return t;
+}
+
+class Runner {
+  public:
+    std::string Do(const Words& w) {
+        const std::string& c = w[0];
+        if (c == "quiet") return Do(Words(w.begin() + 1, w.end())), "";
+        if (c == "write") return Write(w[1]);
+        if (c == "print") return Print(w);
+        if (c == "run") return Pass(w);
+        Build(w);
+        return "";
+    }
+
+  private:
+    void Build(const Words& w) {
+        const std::string& c = w[0];
+        if (c == "board") return Board(w);
+        if (c == "nets") return fixtures::MakeNets(Words(w.begin() + 1, w.end()));
+        if (c == "display") g_model.g_strDisplayNetNames[static_cast<size_t>(Net(w[1]))] = w[2];
+        if (c == "set") return Set(w);
+        if (c == "polygon") fixtures::AddPolygon(L(w[1]), Polarity(w[2]), Net(w[3]), Points(w, 4));
+        if (c == "square")
+            fixtures::AddSquare(L(w[1]), Polarity(w[2]), Net(w[3]), Num(w[4]), Num(w[5]),
+                                Num(w[6]));
+        if (c == "circle")
+            fixtures::AddCircle(L(w[1]), Polarity(w[2]), Net(w[3]), Num(w[4]), Num(w[5]),
+                                Num(w[6]));
+        if (c == "last") return LastShape(w);
+        if (c == "trace")
+            fixtures::AddTraceLine(L(w[1]), Num(w[2]), Num(w[3]), Num(w[4]), Num(w[5]), Net(w[6]),
+                                   w.size() > 7 ? Num(w[7]) : 0.1);
+        if (c == "readtrace" && GrowTraceArrays())
+            AddTraceRecord(Num(w[2]), Num(w[3]), Num(w[4]), Num(w[5]), 0.1, L(w[1]), Net(w[6]));
+        if (c == "traceset") return TraceSet(w);
+        if (c == "stack") return Stack(w);
+        if (c == "pad") return Pad(w);
+        if (c == "anti") stack_->entries.back().anti = pad_ = PadDef(w, 1);
+        if (c == "points")
+            for (const ShapePoint& p : Points(w, 1)) pad_->points.emplace_back(p.x, p.y);
+        if (c == "via") return Via(w);
+        if (c == "node") return Node(w);
+        if (c == "vianode")
+            AddViaNode(Num(w[1]), Num(w[2]), L(w[3]), Net(w[4]), static_cast<uint16_t>(Num(w[5])),
+                       static_cast<uint16_t>(Num(w[6])));
+        if (c == "nodeset") return NodeSet(w);
+        if (c == "logfile") g_options.g_pLogFile = std::tmpfile();
+    }
+
+    static int32_t L(const std::string& word) { return std::atoi(word.c_str()); }
+
+    static void Board(const Words& w) {
+        std::vector<std::pair<std::string, uint8_t>> layers;
+        for (size_t i = 1; i < w.size(); ++i)
+            layers.emplace_back(w[i].substr(2), w[i][0] == 'S'   ? kLayerSignal
+                                                : w[i][0] == 'P' ? kLayerPlane
+                                                                 : kLayerDielectric);
+        fixtures::MakeLayerStack(layers);
+        for (int i = 0; i < g_model.g_nLayerCount; ++i) {
+            LayerRec& l = g_model.g_aLayers[i];
+            l.thickness = 0.035;
+            l.conductivity = 58;
+            l.permittivity = 4.3;
+            l.ordinal = static_cast<uint8_t>(i);
+        }
+    }
+
+    static void Set(const Words& w) {
+        if (w[1] == "tiny") {
+            g_model.g_dbTinyTraceLimitSquared = Num(w[2]) * Num(w[2]);
+            return;
+        }
+        const Option& o = kOptions.at(w[1]);
+        if (auto i = std::get_if<int32_t TranslationOptions::*>(&o)) g_options.*(*i) = L(w[2]);
+        if (auto d = std::get_if<double TranslationOptions::*>(&o)) g_options.*(*d) = Num(w[2]);
+        if (auto s = std::get_if<std::string TranslationOptions::*>(&o))
+            g_options.*(*s) = w.size() > 2 ? w[2] : "";
+    }
+
+    static void LastShape(const Words& w) {
+        ShapeRec& s = g_model.g_aShapes.back();
+        if (w[1] == "area") s.area = Num(w[2]);
+        if (w[1] == "undiscardable") s.undiscardable = L(w[2]);
+        if (w[1] == "discarded") s.discarded = L(w[2]);
+    }
+
+    static void TraceSet(const Words& w) {
+        const size_t t = static_cast<size_t>(L(w[1]));
+        if (w[2] == "flag") g_model.g_aTraceFlags[t] = static_cast<uint8_t>(L(w[3]));
+        if (w[2] == "width")
+            g_model.g_aTraces[t].width = w[3] == "deleted" ? kDeletedTraceWidth : Num(w[3]);
+    }
+
+    void Stack(const Words& w) {
+        PadStackRec stack;
+        stack.name = w[1];
+        stack.drill = Num(w[2]);
+        stack_ = &g_model.g_padStacks.Set(w[1], std::move(stack));
+    }
+
+    void Pad(const Words& w) {
+        PadEntry entry;
+        entry.layerName = w[1] == "\"\"" ? "" : w[1];
+        if (w[2] != "-") entry.regular = pad_ = PadDef(w, 2);
+        stack_->entries.push_back(entry);
+    }
+
+    static PadStackRec* StackNamed(const std::string& name) {
+        return g_model.g_padStacks.Find(name);
+    }
+
+    static void Via(const Words& w) {
+        ViaRec via;
+        via.x = Num(w[1]);
+        via.y = Num(w[2]);
+        via.net = Net(w[3]);
+        via.startLayer = static_cast<uint16_t>(L(w[4]));
+        via.endLayer = static_cast<uint16_t>(L(w[5]));
+        via.padStack = StackNamed(w[6]);
+        via.rotation = Num(Extra(w, "rot", "0"));
+        via.noContact = static_cast<uint8_t>(L(Extra(w, "nocontact", "0")));
+        g_model.g_aVias.push_back(via);
+    }
+
+    static void Node(const Words& w) {
+        const NodeRec* n = nullptr;
+        AddNode(&n, Num(w[1]), Num(w[2]), L(w[3]), Net(w[4]), static_cast<uint16_t>(L(w[5])),
+                w.size() > 7 && w[6].find('=') == std::string::npos ? StackNamed(w[6]) : nullptr,
+                w.size() > 7 && w[6].find('=') == std::string::npos ? Num(w[7]) : 0.0);
+        n->label = Extra(w, "label", n->label);
+        n->mirrored = L(Extra(w, "mirrored", std::to_string(n->mirrored)));
+    }
+
+    static void NodeSet(const Words& w) {
+        NodeRec* n = NodeById(L(w[1]));
+        if (w[2] == "label") n->label = w[3];
+        if (w[2] == "traceRefs") n->traceRefs = static_cast<uint32_t>(L(w[3]));
+        if (w[2] == "viaRefs") n->viaRefs = static_cast<uint32_t>(L(w[3]));
+    }
+
+    static std::string Pass(const Words& w) {
+        const std::map<std::string, std::function<void()>> passes = {
+            {"sort", SortShapes},
+            {"rebuild",
+             [] {
+                 RebuildNodeArray();
+                 RebuildNodeIndex();
+             }},
+            {"makenode", MakeNode},
+            {"flip", FlipMirroredBottomNodes},
+            {"voidcheck", [] { CheckUndiscardableVoids(); }},
+            {"kickout", KickOutTrivialTrace},
+            {"tiny", ClearTinyTraces},
+            {"gaps", GenerateTraceGaps},
+            {"nullstreams",
+             [] {
+                 WritePadStackLibrary(nullptr);
+                 WriteMirroredPadStacks(nullptr);
+             }},
+            {"round", RunShapeCleanupRound},
+            {"separate",
+             [] {
+                 SetLayerExtents();
+                 SeparateTouchingEdges();
+             }},
+        };
+        if (w[1] == "vias") return MakeVias() == 1 ? "" : "MakeVias failed\n";
+        if (w[1] == "clean") {
+            CleanPolygon(L(w[2]));
+            return "";
+        }
+        auto pass = passes.find(w[1]);
+        if (pass == passes.end()) return "no pass " + w[1] + "\n";
+        pass->second();
+        return "";
+    }
+
+    static std::string Write(const std::string& what) {
+        const std::map<std::string, void (*)(FILE*)> writers = {
+            {"library", WritePadStackLibrary}, {"mirrored", WriteMirroredPadStacks},
+            {"packageend", WritePackageEnd},   {"shapes", WriteShapes},
+            {"layers", WriteLayers},           {"nodes", WriteNodes},
+            {"traces", WriteTraces},           {"vias", WriteVias}};
+        auto writer = writers.find(what);
+        if (writer == writers.end()) return "no writer " + what + "\n";
+        return testing_support::CaptureOutput(writer->second);
+    }
+
+    static std::string Print(const Words& w) {
+        if (w[1] == "shapes") return fixtures::ShapesAsText();
+        if (w[1] == "flags") return Flags();
+        if (w[1] == "state") return TraceState();
+        if (w[1] == "node") return NodeText(FindNode(L(w[2]), Num(w[3]), Num(w[4])));
+        if (w[1] == "log") {
+            std::string text = testing_support::ReadStream(g_options.g_pLogFile);
+            std::fclose(g_options.g_pLogFile);
+            g_options.g_pLogFile = nullptr;
+            return text;
+        }
+        return "nothing to print: " + w[1] + "\n";
+    }
+
+    PadStackRec* stack_ = nullptr;
+    std::shared_ptr<PadDefRec> pad_;
+};
+
+}  // namespace
+
+std::vector<Step> Run(const std::string& script) {
+    testing_support::ResetGlobals();
+    std::vector<Step> steps;
+    std::istringstream in(script);
+    int number = 0;
+    for (std::string line; std::getline(in, line);) {
+        ++number;
+        if (line.compare(0, 1, "#") == 0) continue;
+        if (line.compare(0, 2, "> ") != 0) {
+            if (!steps.empty()) steps.back().expected += line + "\n";
+            continue;
+        }
+        Step step;
+        step.line = number;
+        step.command = line.substr(2);
+        steps.push_back(step);
+    }
+    Runner runner;
+    for (Step& step : steps) {
+        std::istringstream words(step.command);
+        Words w;
+        for (std::string word; words >> word;) w.push_back(word);
+        step.actual = runner.Do(w);
+    }
+    if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile), g_options.g_pLogFile = nullptr;
+    return steps;
+}
+
+}  // namespace board_script
