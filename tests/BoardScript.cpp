@@ -19,7 +19,7 @@
 //   quiet COMMAND                the command, its output not compared
 //   write SECTION                library, mirrored, packageend, shapes, layers, nodes, traces, vias
 //   print WHAT                   shapes, flags, state, log, node L X Y (one node as
-//                                "#id Llayer x,y net contact traceRefs viaRefs [label]
+//                                "node ID Llayer x,y net contact traceRefs viaRefs [label]
 //                                [pad@rotation]")
 #include "BoardScript.h"
 
@@ -113,7 +113,7 @@ std::shared_ptr<PadDefRec> PadDef(const Words& w, size_t at) {
 std::string NodeText(const NodeRec* n) {
     if (!n) return "none\n";
     char buf[160];
-    std::snprintf(buf, sizeof buf, "#%u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
+    std::snprintf(buf, sizeof buf, "node %u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
                   n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
     std::string text = buf;
     if (!n->label.empty()) text += " " + n->label;
