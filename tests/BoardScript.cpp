@@ -143,9 +143,17 @@ std::string Flags() {
 
 class Runner {
   public:
-    std::string Do(const Words& w) {
+    std::string Do(const std::string& command) {
+        std::istringstream words(command);
+        Words w;
+        for (std::string word; words >> word;) w.push_back(word);
         const std::string& c = w[0];
-        if (c == "quiet") return Do(Words(w.begin() + 1, w.end())), "";
+        if (c == "quiet") return Do(command.substr(6)), "";
+        if (c == "nddline") return ndd_ += command.substr(8) + "\n", "";
+        if (c == "parsetrace") {
+            dir_ = std::make_unique<testing_support::ScratchDir>();
+            return ParseTrace(dir_->Write("a.ndd", ndd_), 0) == 1 ? "" : "failed\n";
+        }
         if (c == "write") return Write(w[1]);
         if (c == "print") return Print(w);
         if (c == "run") return Pass(w);
@@ -174,6 +182,8 @@ class Runner {
         if (c == "readtrace" && GrowTraceArrays())
             AddTraceRecord(Num(w[2]), Num(w[3]), Num(w[4]), Num(w[5]), 0.1, L(w[1]), Net(w[6]));
         if (c == "traceset") return TraceSet(w);
+        if (c == "tracerec") return TraceRecord(w);
+        if (c == "layer") return Layer(w);
         if (c == "stack") return Stack(w);
         if (c == "pad") return Pad(w);
         if (c == "anti") stack_->entries.back().anti = pad_ = PadDef(w, 1);
@@ -207,6 +217,10 @@ class Runner {
     }
 
     static void Set(const Words& w) {
+        if (w[1] == "scale") {
+            g_model.g_dbLengthScale = Num(w[2]);
+            return;
+        }
         if (w[1] == "tiny") {
             g_model.g_dbTinyTraceLimitSquared = Num(w[2]) * Num(w[2]);
             return;
@@ -223,6 +237,24 @@ class Runner {
         if (w[1] == "area") s.area = Num(w[2]);
         if (w[1] == "undiscardable") s.undiscardable = L(w[2]);
         if (w[1] == "discarded") s.discarded = L(w[2]);
+    }
+
+    static void TraceRecord(const Words& w) {
+        TraceRec t;
+        t.layer = L(w[1]);
+        t.startNode = L(w[2]);
+        t.endNode = L(w[3]);
+        t.width = w[5] == "deleted" ? kDeletedTraceWidth : Num(w[5]);
+        t.color = L(Extra(w, "color", "0"));
+        g_model.g_aTraces.push_back(t);
+        g_model.g_aTraceNets.push_back(Net(w[4]));
+        g_model.g_aTraceFlags.push_back(0);
+    }
+
+    static void Layer(const Words& w) {
+        LayerRec& l = g_model.g_aLayers[L(w[1])];
+        if (w[2] == "thickness") l.thickness = Num(w[3]);
+        if (w[2] == "hasShapes") l.hasShapes = static_cast<uint16_t>(L(w[3]));
     }
 
     static void TraceSet(const Words& w) {
@@ -341,6 +373,8 @@ class Runner {
         return "nothing to print: " + w[1] + "\n";
     }
 
+    std::unique_ptr<testing_support::ScratchDir> dir_;
+    std::string ndd_;
     PadStackRec* stack_ = nullptr;
     std::shared_ptr<PadDefRec> pad_;
 };
@@ -365,12 +399,7 @@ std::vector<Step> Run(const std::string& script) {
         steps.push_back(step);
     }
     Runner runner;
-    for (Step& step : steps) {
-        std::istringstream words(step.command);
-        Words w;
-        for (std::string word; words >> word;) w.push_back(word);
-        step.actual = runner.Do(w);
-    }
+    for (Step& step : steps) step.actual = runner.Do(step.command);
     if (g_options.g_pLogFile) std::fclose(g_options.g_pLogFile), g_options.g_pLogFile = nullptr;
     return steps;
 }
