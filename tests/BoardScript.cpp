@@ -133,11 +133,35 @@ std::string TraceState() {
     return t + "\n";
 }
 
-// Shape by shape: the undiscardable and discarded flags.
+// Shape by shape: layer, first point, the undiscardable and discarded flags.
 std::string Flags() {
     std::string t;
-    for (const ShapeRec& s : g_model.g_aShapes)
-        t += "u" + std::to_string(s.undiscardable) + " d" + std::to_string(s.discarded) + "\n";
+    char buf[96];
+    for (const ShapeRec& s : g_model.g_aShapes) {
+        const ShapePoint& p = g_model.g_aShapePoints[static_cast<size_t>(s.firstPoint)];
+        std::snprintf(buf, sizeof buf, "L%d %g,%g u%d d%d\n", s.layer, p.x, p.y, s.undiscardable,
+                      s.discarded);
+        t += buf;
+    }
+    return t;
+}
+
+// Shape by shape: area and box; then each layer's extent and grid cell.
+std::string Boxes() {
+    std::string t;
+    char buf[128];
+    for (size_t i = 0; i < g_model.g_aShapes.size() && i < g_model.g_aShapeBoxes.size(); ++i) {
+        const BoundingBox& b = g_model.g_aShapeBoxes[i];
+        std::snprintf(buf, sizeof buf, "%g %g,%g %g,%g\n", g_model.g_aShapes[i].area, b.minX,
+                      b.minY, b.maxX, b.maxY);
+        t += buf;
+    }
+    for (int i = 0; i < g_model.g_nLayerCount; ++i) {
+        const LayerRec& l = g_model.g_aLayers[i];
+        std::snprintf(buf, sizeof buf, "L%d %g,%g %.17g,%.17g\n", i, l.minX, l.minY, l.gridX,
+                      l.gridY);
+        t += buf;
+    }
     return t;
 }
 
@@ -155,6 +179,7 @@ class Runner {
             return ParseTrace(dir_->Write("a.ndd", ndd_), 0) == 1 ? "" : "failed\n";
         }
         if (c == "write") return Write(w[1]);
+        if (c == "reset") return testing_support::ResetGlobals(), "";
         if (c == "print") return Print(w);
         if (c == "run") return Pass(w);
         Build(w);
@@ -362,6 +387,16 @@ class Runner {
     static std::string Print(const Words& w) {
         if (w[1] == "shapes") return fixtures::ShapesAsText();
         if (w[1] == "flags") return Flags();
+        if (w[1] == "boxes") return Boxes();
+        if (w[1] == "nodes") {
+            std::string t;
+            for (const NodeRec& n : g_model.g_aNodes) t += NodeText(&n);
+            return t;
+        }
+        if (w[1] == "run") {
+            const ShapeRun run = FindLayerShapeRun(L(w[2]));
+            return std::to_string(run.first) + "-" + std::to_string(run.end) + "\n";
+        }
         if (w[1] == "state") return TraceState();
         if (w[1] == "node") return NodeText(FindNode(L(w[2]), Num(w[3]), Num(w[4])));
         if (w[1] == "log") {
