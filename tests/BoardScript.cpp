@@ -388,6 +388,9 @@ class Runner {
         if (w[1] == "shapes") return fixtures::ShapesAsText();
         if (w[1] == "flags") return Flags();
         if (w[1] == "boxes") return Boxes();
+        if (w[1] == "count")
+            return std::to_string(g_model.ShapeCount()) + " shapes " +
+                   std::to_string(g_model.g_aShapeBoxes.size()) + " boxes\n";
         if (w[1] == "nodes") {
             std::string t;
             for (const NodeRec& n : g_model.g_aNodes) t += NodeText(&n);
