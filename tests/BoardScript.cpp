@@ -1,30 +1,29 @@
-// The commands of a board script. Nets are names of the net table, "-" for none (65535),
-// "alt" for the other no-net value (65534) or numbers; polarity is + (copper), - (void) or
-// s (split); points are x,y.
-//   board S:TOP D:D1 P:GND       the layer stack, top first (thickness 0.035 mm)
-//   nets A B | display NET NAME  the net table; a net's display name
-//   set OPTION VALUE             a translation option by its field name; "tiny L" the tiny-trace
-//   limit polygon L POL NET x,y...  square L POL NET X Y SIDE  circle L POL NET X Y R last FIELD
-//   VALUE             undiscardable, discarded or area of the last shape trace L X1 Y1 X2 Y2 NET
-//   [W]  a trace between two new nodes; "readtrace" as the reader adds one traceset T FIELD VALUE
-//   flag or width ("deleted") of trace T stack NAME DRILL             a padstack; pad LAYER SHAPE W
-//   H [OX OY] adds an entry ("-": none), anti SHAPE W H [OX OY]       its anti pad, points x,y...
-//   the last pad's points via X Y NET START END STACK [rot=R] [nocontact=1] node X Y L NET CONTACT
-//   [STACK ROT] [label=L] [mirrored=M]   vianode X Y L NET CONTACT VIAREF nodeset ID FIELD VALUE
-//   label, traceRefs or viaRefs of a node of the flat array logfile                      a
-//   translation log to catch warnings run PASS                     sort, vias, rebuild, makenode,
-//   flip, voidcheck, kickout, tiny,
-//                                gaps, round, separate, clean N, nullstreams (the padstack
-//                                writers on no stream)
-//   quiet COMMAND                the command, its output not compared
-//   write SECTION                library, mirrored, packageend, shapes, layers, nodes, traces, vias
-//   print WHAT                   shapes, flags, state, log, node L X Y (one node as
-//                                "node ID Llayer x,y net contact traceRefs viaRefs [label]
-//                                [pad@rotation]")
+// The commands of a board script. NET is a name of the net table, a number, "-" (65535) or
+// "alt" (65534); POL is + (copper), - (void) or s (split); points are x,y; L is a layer index.
+//   board S:TOP D:D1 P:GND   the layer stack, top first; nets A B   the net table
+//   set OPTION VALUE         a translation option by its field name; "scale" the NDD unit,
+//                            "tiny" the tiny-trace length
+//   display NET NAME         a net's display name; layer L thickness|hasShapes VALUE
+//   polygon L POL NET x,y..  square L POL NET X Y SIDE   circle L POL NET X Y R
+//   last area|undiscardable|discarded VALUE    of the last shape
+//   trace L X1 Y1 X2 Y2 NET [W]   between new nodes; readtrace: as the trace reader adds it
+//   tracerec L START END NET W|deleted [color=C]   a trace record between node numbers
+//   traceset T flag|width VALUE   nddline TEXT, then parsetrace: NDD read by the trace reader
+//   stack NAME DRILL         a padstack; pad LAYER SHAPE|- [W H [OX OY]] adds an entry,
+//                            anti SHAPE W H [OX OY] its anti pad, points x,y.. the last pad's
+//   via X Y NET START END STACK [rot=R] [nocontact=1]
+//   node X Y L NET CONTACT [STACK ROT] [label=T] [mirrored=M]   vianode X Y L NET CONTACT VIAREF
+//   nodeset ID label|traceRefs|viaRefs VALUE   in the flat array
+//   viaout NUMBER NET UPPERNET LOWERNET STACK   a via stretch from node 0 to node 1, rotation 90
+//   logfile                  a translation log; reset   a fresh model
+//   run PASS                 sort, vias, rebuild, makenode, flip, voidcheck, kickout, tiny, gaps,
+//                            round, separate, clean N, nullstreams (padstack writers, no stream)
+//   write SECTION            library, mirrored, packageend, shapes, layers, nodes, traces, vias
+//   print WHAT               shapes, flags, boxes, count, nodes, state, log, run L, node L X Y
+//   quiet COMMAND            the command, its output not compared
 #include "BoardScript.h"
 
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <sstream>
 #include <variant>
@@ -57,19 +56,14 @@ using Option = std::variant<int32_t TranslationOptions::*, double TranslationOpt
                             std::string TranslationOptions::*>;
 #define OPTION(f) \
     { #f, &TranslationOptions::f }
-const std::map<std::string, Option> kOptions = {OPTION(g_nTranslatePads),
-                                                OPTION(g_bAllowPatches),
-                                                OPTION(g_bAddPseudoPlane),
-                                                OPTION(g_nIncludeNoNetEtches),
-                                                OPTION(g_bAppendNetName),
-                                                OPTION(g_strNameAffix),
-                                                OPTION(g_bColorShapesByNet),
-                                                OPTION(g_dbVoidAreaLimit),
-                                                OPTION(g_dbViaVoidArea),
-                                                OPTION(g_bExcludeVoidEnclosingVia),
-                                                OPTION(g_strTraceGapPercent),
-                                                OPTION(g_dbDrillClearance),
-                                                OPTION(g_dbGapAroundAreaFillOnPlaneLayers)};
+// clang-format off
+const std::map<std::string, Option> kOptions = {
+    OPTION(g_nTranslatePads), OPTION(g_bAllowPatches), OPTION(g_bAddPseudoPlane),
+    OPTION(g_nIncludeNoNetEtches), OPTION(g_bAppendNetName), OPTION(g_strNameAffix),
+    OPTION(g_bColorShapesByNet), OPTION(g_dbVoidAreaLimit), OPTION(g_dbViaVoidArea),
+    OPTION(g_bExcludeVoidEnclosingVia), OPTION(g_strTraceGapPercent), OPTION(g_dbDrillClearance),
+    OPTION(g_dbGapAroundAreaFillOnPlaneLayers)};
+// clang-format on
 #undef OPTION
 
 double Num(const std::string& word) {
@@ -117,7 +111,8 @@ std::string NodeText(const NodeRec* n) {
                   n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
     std::string text = buf;
     if (!n->label.empty()) text += " " + n->label;
-    if (n->padStack) text += " " + n->padStack->name + "@" + std::to_string(n->rotation);
+    if (n->padStack || n->rotation != 0)
+        text += " " + (n->padStack ? n->padStack->name : "-") + "@" + std::to_string(n->rotation);
     return text + "\n";
 }
 
@@ -165,6 +160,16 @@ std::string Boxes() {
     return t;
 }
 
+// Nothing, when word is one of the blank-separated names; a complaint that fails the case
+// otherwise.
+std::string Known(const std::string& names, const std::string& word) {
+    return names.find(" " + word + " ") == std::string::npos ? "unknown word " + word + "\n" : "";
+}
+
+const char kBuildCommands[] =
+    " board nets display set polygon square circle last trace readtrace traceset tracerec layer "
+    "stack pad anti points via node vianode nodeset viaout logfile ";
+
 class Runner {
   public:
     std::string Do(const std::string& command) {
@@ -183,7 +188,7 @@ class Runner {
         if (c == "print") return Print(w);
         if (c == "run") return Pass(w);
         Build(w);
-        return "";
+        return Known(kBuildCommands, c);
     }
 
   private:
@@ -220,6 +225,7 @@ class Runner {
             AddViaNode(Num(w[1]), Num(w[2]), L(w[3]), Net(w[4]), static_cast<uint16_t>(Num(w[5])),
                        static_cast<uint16_t>(Num(w[6])));
         if (c == "nodeset") return NodeSet(w);
+        if (c == "viaout") return ViaOut(w);
         if (c == "logfile") g_options.g_pLogFile = std::tmpfile();
     }
 
@@ -329,6 +335,19 @@ class Runner {
         n->mirrored = L(Extra(w, "mirrored", std::to_string(n->mirrored)));
     }
 
+    static void ViaOut(const Words& w) {
+        ViaOutRec v;
+        v.number = static_cast<uint32_t>(L(w[1]));
+        v.upperNode = 0;
+        v.lowerNode = 1;
+        v.net = Net(w[2]);
+        v.upperNet = Net(w[3]);
+        v.lowerNet = Net(w[4]);
+        v.padStack = StackNamed(w[5]);
+        v.rotation = 90;
+        g_model.g_aViaOut.push_back(v);
+    }
+
     static void NodeSet(const Words& w) {
         NodeRec* n = NodeById(L(w[1]));
         if (w[2] == "label") n->label = w[3];
@@ -337,40 +356,24 @@ class Runner {
     }
 
     static std::string Pass(const Words& w) {
-        const std::map<std::string, std::function<void()>> passes = {
-            {"sort", SortShapes},
-            {"rebuild",
-             [] {
-                 RebuildNodeArray();
-                 RebuildNodeIndex();
-             }},
-            {"makenode", MakeNode},
-            {"flip", FlipMirroredBottomNodes},
-            {"voidcheck", [] { CheckUndiscardableVoids(); }},
-            {"kickout", KickOutTrivialTrace},
-            {"tiny", ClearTinyTraces},
-            {"gaps", GenerateTraceGaps},
-            {"nullstreams",
-             [] {
-                 WritePadStackLibrary(nullptr);
-                 WriteMirroredPadStacks(nullptr);
-             }},
-            {"round", RunShapeCleanupRound},
-            {"separate",
-             [] {
-                 SetLayerExtents();
-                 SeparateTouchingEdges();
-             }},
-        };
-        if (w[1] == "vias") return MakeVias() == 1 ? "" : "MakeVias failed\n";
-        if (w[1] == "clean") {
-            CleanPolygon(L(w[2]));
-            return "";
-        }
-        auto pass = passes.find(w[1]);
-        if (pass == passes.end()) return "no pass " + w[1] + "\n";
-        pass->second();
-        return "";
+        const std::string& p = w[1];
+        if (p == "vias") return MakeVias() == 1 ? "" : "MakeVias failed\n";
+        if (p == "sort") SortShapes();
+        if (p == "rebuild") RebuildNodeArray(), RebuildNodeIndex();
+        if (p == "makenode") MakeNode();
+        if (p == "flip") FlipMirroredBottomNodes();
+        if (p == "voidcheck") CheckUndiscardableVoids();
+        if (p == "kickout") KickOutTrivialTrace();
+        if (p == "tiny") ClearTinyTraces();
+        if (p == "gaps") GenerateTraceGaps();
+        if (p == "round") RunShapeCleanupRound();
+        if (p == "separate") SetLayerExtents(), SeparateTouchingEdges();
+        if (p == "clean") CleanPolygon(L(w[2]));
+        if (p == "nullstreams") WritePadStackLibrary(nullptr), WriteMirroredPadStacks(nullptr);
+        return Known(
+            " sort rebuild makenode flip voidcheck kickout tiny gaps round separate clean "
+            "nullstreams ",
+            p);
     }
 
     static std::string Write(const std::string& what) {
@@ -380,7 +383,7 @@ class Runner {
             {"layers", WriteLayers},           {"nodes", WriteNodes},
             {"traces", WriteTraces},           {"vias", WriteVias}};
         auto writer = writers.find(what);
-        if (writer == writers.end()) return "no writer " + what + "\n";
+        if (writer == writers.end()) return "unknown word " + what + "\n";
         return testing_support::CaptureOutput(writer->second);
     }
 
@@ -408,7 +411,7 @@ class Runner {
             g_options.g_pLogFile = nullptr;
             return text;
         }
-        return "nothing to print: " + w[1] + "\n";
+        return "unknown word " + w[1] + "\n";
     }
 
     std::unique_ptr<testing_support::ScratchDir> dir_;

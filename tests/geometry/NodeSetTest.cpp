@@ -1,3 +1,5 @@
+// The node set's cases are board scripts under tests/data/geometry/NodeSet; here its array,
+// index and range walk.
 #include "model/NodeSet.h"
 
 #include <gtest/gtest.h>
@@ -15,77 +17,10 @@ int32_t TraceEnd(double x, double y, int32_t layer, int32_t net = 0) {
 
 // A node as "#id Llayer x,y net contact traceRefs viaRefs".
 std::string Text(const NodeRec* n) {
-    if (!n) return "none";
     char buf[96];
     std::snprintf(buf, sizeof buf, "#%u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
                   n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
     return buf;
-}
-
-TEST(NodeSet, EndsWithinToleranceShareANodeAndFartherOnesDoNot) {
-    ResetGlobals();
-    EXPECT_EQ(TraceEnd(10.0, 0.0, 0), 0);
-    EXPECT_EQ(TraceEnd(10.00005, 0.0, 0), 0);  // 5e-5 mm away in x: the same node
-    EXPECT_EQ(TraceEnd(10.0, 10.00005 - 10.0, 0), 0);
-    EXPECT_EQ(TraceEnd(10.00007, 0.0, 0), 1);  // 7e-5 mm away: a node of its own
-    EXPECT_EQ(TraceEnd(10.0, 7e-5, 0), 2);
-    EXPECT_EQ(g_model.g_nNodeCount, 3u);
-    EXPECT_EQ(g_model.g_setNodes.size(), 3u);
-    // The first end's position stands.
-    EXPECT_EQ(Text(FindNode(0, 10.0, 0.0)), "#0 L0 10,0 n0 c1 t3 v0");
-    // The same point on another layer is another node.
-    EXPECT_EQ(TraceEnd(10.0, 0.0, 2), 3);
-    EXPECT_EQ(TraceEnd(10.0, 0.0, 2), 3);
-    // FindNode uses the tolerance.
-    EXPECT_NE(FindNode(2, 10.00005, -0.00005), nullptr);
-    EXPECT_EQ(FindNode(2, 10.00007, 0.0), nullptr);
-    EXPECT_EQ(FindNode(1, 10.0, 0.0), nullptr);
-}
-
-TEST(NodeSet, ExistingNodeKeepsItsOwnNetContactPadstackAndRotation) {
-    ResetGlobals();
-    PadStackRec pad;
-    const NodeRec* first = nullptr;
-    const NodeRec* second = nullptr;
-    EXPECT_EQ(AddNode(&first, 1.0, 1.0, 0, 3, 1, nullptr, 0.0), 0);
-    EXPECT_EQ(AddNode(&second, 1.00001, 1.0, 0, 4, 0, &pad, 45.0), 0);
-    EXPECT_EQ(first, second);
-    EXPECT_EQ(Text(second), "#0 L0 1,1 n3 c1 t2 v0");
-    EXPECT_EQ(second->padStack, nullptr);
-    EXPECT_EQ(second->rotation, 0.0);
-}
-
-TEST(NodeSet, ViaNodes) {
-    ResetGlobals();
-    // On a trace end the via takes that node and its position, but not its net.
-    EXPECT_EQ(TraceEnd(5.0, 5.0, 1, 7), 0);
-    EXPECT_EQ(Text(AddViaNode(5.00003, 5.0, 1, 9, 0, 1)), "#0 L1 5,5 n7 c1 t2 v1");
-    // A node without net takes the via's.
-    EXPECT_EQ(TraceEnd(8.0, 8.0, 1, kNoNet), 1);
-    EXPECT_EQ(Text(AddViaNode(8.0, 8.0, 1, 9, 1, 1)), "#1 L1 8,8 n9 c1 t2 v1");
-    // No via reference: only a trace reference.
-    EXPECT_EQ(Text(AddViaNode(8.0, 8.0, 1, 4, 1, 0)), "#1 L1 8,8 n9 c1 t3 v1");
-    // A new via node stores its contact and the via reference; the caller may change it.
-    const NodeRec* via = AddViaNode(1.0, 1.0, 0, 2, 0, 1);
-    EXPECT_EQ(Text(via), "#2 L0 1,1 n2 c0 t1 v1");
-    via->contact = 1;
-    EXPECT_EQ(FindNode(0, 1.0, 1.0)->contact, 1);
-}
-
-TEST(NodeSet, InsertionOrderDecidesWhichNearlyEqualPointsComeTogether) {
-    ResetGlobals();
-    // 0 and 1e-4 are two nodes; 5e-5 lies within the tolerance of both and joins the
-    // lower one instead of making a third. Had 5e-5 come first, both would have joined it.
-    EXPECT_EQ(TraceEnd(0.0, 0.0, 0), 0);
-    EXPECT_EQ(TraceEnd(1e-4, 0.0, 0), 1);
-    EXPECT_EQ(TraceEnd(5e-5, 0.0, 0), 0);
-    EXPECT_EQ(g_model.g_setNodes.size(), 2u);
-    EXPECT_EQ(FindNode(0, 5e-5, 0.0)->id, 0u);
-
-    ResetGlobals();
-    EXPECT_EQ(TraceEnd(5e-5, 0.0, 0), 0);
-    EXPECT_EQ(TraceEnd(1e-4, 0.0, 0), 0);
-    EXPECT_EQ(TraceEnd(0.0, 0.0, 0), 0);
 }
 
 TEST(NodeSet, ArrayIsTheSetInKeyOrderWithBlockCapacity) {
