@@ -19,7 +19,8 @@
 //   run PASS                 sort, vias, rebuild, makenode, flip, voidcheck, kickout, tiny, gaps,
 //                            round, separate, clean N, nullstreams (padstack writers, no stream)
 //   write SECTION            library, mirrored, packageend, shapes, layers, nodes, traces, vias
-//   print WHAT               shapes, flags, boxes, count, nodes, state, log, run L, node L X Y
+//   print WHAT               shapes, flags, boxes, count, nodes, state, gaps, log, run L,
+//                            node L X Y
 //   quiet COMMAND            the command, its output not compared
 #include "BoardScript.h"
 
@@ -404,6 +405,11 @@ class Runner {
             return std::to_string(run.first) + "-" + std::to_string(run.end) + "\n";
         }
         if (w[1] == "state") return TraceState();
+        if (w[1] == "gaps") {
+            std::string t;
+            for (const TraceRec& trace : g_model.g_aTraces) t += std::to_string(trace.gap) + " ";
+            return t + "\n";
+        }
         if (w[1] == "node") return NodeText(FindNode(L(w[2]), Num(w[3]), Num(w[4])));
         if (w[1] == "log") {
             std::string text = testing_support::ReadStream(g_options.g_pLogFile);

@@ -21,7 +21,6 @@
 namespace {
 
 constexpr int32_t kClk = 0;
-constexpr int32_t kGnd = 1;
 
 class TraceCleanupTest : public ::testing::Test {
   protected:
@@ -75,41 +74,6 @@ TEST_F(TraceGapTest, TwentyPercentOnATenthMillimetreGivesAGapOfFourteenHundredth
         EXPECT_EQ(p[k].x, xs[k]) << k;
         EXPECT_EQ(p[k].y, ys[k]) << k;
     }
-}
-
-TEST_F(TraceGapTest, EndInOwnCopperNeedsNoGapOtherNetsAndVoidsDo) {
-    fixtures::AddSquare(0, kPolarityCopper, kClk, 0, 0, 2);   // holds the start of trace 0
-    fixtures::AddSquare(0, kPolarityCopper, kGnd, 9, 0, 2);   // holds the start of trace 1
-    fixtures::AddSquare(0, kPolarityCopper, kClk, 19, 0, 2);  // a CLK fill ...
-    fixtures::AddSquare(0, kPolarityVoid, kGnd, 19.5, 0.5,
-                        1);  // ... with a void at trace 2's start
-    SortShapes();
-    Trace(1, 1, 5, 1);
-    Trace(10, 1, 15, 1);
-    Trace(20, 1, 25, 1);
-    LastRebuild();
-    g_options.g_strTraceGapPercent = "50";
-    GenerateTraceGaps();
-    EXPECT_EQ(g_model.g_aTraces[0].gap, 0);
-    EXPECT_EQ(g_model.g_aTraces[1].gap, 1);
-    EXPECT_EQ(g_model.g_aTraces[2].gap, 1);
-    ASSERT_EQ(g_model.g_aShapes.size(), 6u);
-    EXPECT_EQ(PointsOf(4)[0].x, 10 - 0.1);  // width 0.2, from trace 1's start
-    EXPECT_EQ(PointsOf(5)[0].x, 20 - 0.1);
-}
-
-TEST_F(TraceGapTest, EmptyOrZeroPercentAndDeletedTracesMakeNoGap) {
-    Trace(1, 1, 2, 1);
-    LastRebuild();
-    GenerateTraceGaps();
-    g_options.g_strTraceGapPercent = "0.0";
-    GenerateTraceGaps();
-    EXPECT_TRUE(g_model.g_aShapes.empty());
-    g_model.g_aTraces[0].width = kDeletedTraceWidth;
-    g_options.g_strTraceGapPercent = "20";
-    GenerateTraceGaps();
-    EXPECT_EQ(g_model.g_aTraces[0].gap, 0);
-    EXPECT_TRUE(g_model.g_aShapes.empty());
 }
 
 }  // namespace
