@@ -20,7 +20,7 @@
 //                            round, separate, clean N, nullstreams (padstack writers, no stream)
 //   write SECTION            library, mirrored, packageend, shapes, layers, nodes, traces, vias
 //   print WHAT               shapes, flags, boxes, count, nodes, state, gaps, log, run L,
-//                            node L X Y
+//                            node L X Y, inside S (whether each trace runs into void S)
 //   quiet COMMAND            the command, its output not compared
 #include "BoardScript.h"
 
@@ -38,6 +38,7 @@
 #include "geometry/SeparateTouchingEdges.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/TraceCleanup.h"
+#include "geometry/TraceInVoid.h"
 #include "model/TranslationOptions.h"
 #include "ndd/TraceReader.h"
 #include "qfx/LayerWriter.h"
@@ -405,10 +406,16 @@ class Runner {
             return std::to_string(run.first) + "-" + std::to_string(run.end) + "\n";
         }
         if (w[1] == "state") return TraceState();
+        if (w[1] == "inside") {
+            std::string t;
+            for (int32_t i = 0; i < g_model.TraceCount(); ++i)
+                t += " " + std::to_string(TraceInVoid(i, L(w[2])));
+            return t.substr(t.empty() ? 0 : 1) + "\n";
+        }
         if (w[1] == "gaps") {
             std::string t;
-            for (const TraceRec& trace : g_model.g_aTraces) t += std::to_string(trace.gap) + " ";
-            return t + "\n";
+            for (const TraceRec& trace : g_model.g_aTraces) t += " " + std::to_string(trace.gap);
+            return t.substr(t.empty() ? 0 : 1) + "\n";
         }
         if (w[1] == "node") return NodeText(FindNode(L(w[2]), Num(w[3]), Num(w[4])));
         if (w[1] == "log") {

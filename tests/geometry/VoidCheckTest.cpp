@@ -6,7 +6,6 @@
 #include "TestSupport.h"
 
 #include "geometry/CheckUndiscardableVoids.h"
-#include "geometry/TraceInVoid.h"
 
 namespace {
 
@@ -14,7 +13,7 @@ using namespace testing_support;
 using namespace fixtures;
 
 // The void check's cases are board scripts under tests/data/geometry/VoidCheck; here the
-// trace test itself, and the grid check against the plain one on large random layers.
+// grid check against the plain one on large random layers.
 class VoidCheckTest : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -28,31 +27,6 @@ class VoidCheckTest : public ::testing::Test {
         CheckUndiscardableVoids(mode);
     }
 };
-
-TEST(TraceInVoid, CrossingsAndTouches) {
-    ResetGlobals();
-    MakeLayerStack({{"TOP", kLayerSignal}});
-    AddSquare(0, kPolarityVoid, 0, 0, 0, 10);
-    // The same square stored without its closing point, as after the clean-up round.
-    AddPolygon(0, kPolarityVoid, 0, {{20, 0}, {20, 10}, {30, 10}, {30, 0}});
-    SortShapes();
-    const int32_t through = AddTraceLine(0, -5, 5, 15, 5, 0);
-    const int32_t inside = AddTraceLine(0, 2, 2, 3, 3, 0);
-    const int32_t corner = AddTraceLine(0, -10, 10, 10, -10, 0);
-    const int32_t edge = AddTraceLine(0, -5, 10, 15, 10, 0);
-    const int32_t outside = AddTraceLine(0, -5, -5, -1, -1, 0);
-    const int32_t closing = AddTraceLine(0, 25, -5, 25, 5, 0);  // enters across the closing edge
-    RebuildNodeArray();
-    RebuildNodeIndex();
-    // Square 0 has the smaller area? Both are 100: the table keeps their order.
-    EXPECT_TRUE(TraceInVoid(through, 0));
-    EXPECT_TRUE(TraceInVoid(inside, 0));
-    EXPECT_FALSE(TraceInVoid(corner, 0));
-    EXPECT_FALSE(TraceInVoid(edge, 0));
-    EXPECT_FALSE(TraceInVoid(outside, 0));
-    EXPECT_TRUE(TraceInVoid(closing, 1));
-    EXPECT_FALSE(TraceInVoid(through, 1));
-}
 
 // A layer of 160 x 160 with integer coordinates, so that many trace ends and void sides stand
 // exactly on the lines of the 16 x 16 grid (cells of 10).
