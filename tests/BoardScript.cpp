@@ -16,11 +16,13 @@
 //   nodeset ID label|traceRefs|viaRefs VALUE   in the flat array
 //   viaout NUMBER NET UPPERNET LOWERNET STACK   a via stretch from node 0 to node 1, rotation 90
 //   logfile                  a translation log; reset   a fresh model
-//   run PASS                 sort, vias, rebuild, makenode, flip, voidcheck, kickout, tiny, gaps,
-//                            round, separate, clean N, nullstreams (padstack writers, no stream)
+//   run PASS                 sort, boxes, vias, rebuild, makenode, flip, voidcheck, kickout,
+//                            tiny, gaps, round, separate, clean N, nullstreams (the padstack
+//                            writers on no stream)
 //   write SECTION            library, mirrored, packageend, shapes, layers, nodes, traces, vias
 //   print WHAT               shapes, flags, boxes, count, nodes, state, gaps, log, run L,
-//                            node L X Y, inside S (whether each trace runs into void S)
+//                            node L X Y, inside S (whether each trace runs into void S),
+//                            area S, pointin S box|nobox x,y.., strict S N x,y..
 //   quiet COMMAND            the command, its output not compared
 #include "BoardScript.h"
 
@@ -35,7 +37,10 @@
 #include "geometry/CleanPolygon.h"
 #include "geometry/FinishShapes.h"
 #include "geometry/MakeNode.h"
+#include "geometry/PointInShape.h"
 #include "geometry/SeparateTouchingEdges.h"
+#include "geometry/ShapeArea.h"
+#include "geometry/ShapeBoxes.h"
 #include "geometry/ShapeCleanupRound.h"
 #include "geometry/TraceCleanup.h"
 #include "geometry/TraceInVoid.h"
@@ -361,6 +366,7 @@ class Runner {
         const std::string& p = w[1];
         if (p == "vias") return MakeVias() == 1 ? "" : "MakeVias failed\n";
         if (p == "sort") SortShapes();
+        if (p == "boxes") BuildShapeBoxes();
         if (p == "rebuild") RebuildNodeArray(), RebuildNodeIndex();
         if (p == "makenode") MakeNode();
         if (p == "flip") FlipMirroredBottomNodes();
@@ -373,7 +379,7 @@ class Runner {
         if (p == "clean") CleanPolygon(L(w[2]));
         if (p == "nullstreams") WritePadStackLibrary(nullptr), WriteMirroredPadStacks(nullptr);
         return Known(
-            " sort rebuild makenode flip voidcheck kickout tiny gaps round separate clean "
+            " sort boxes rebuild makenode flip voidcheck kickout tiny gaps round separate clean "
             "nullstreams ",
             p);
     }
@@ -406,6 +412,12 @@ class Runner {
             return std::to_string(run.first) + "-" + std::to_string(run.end) + "\n";
         }
         if (w[1] == "state") return TraceState();
+        if (w[1] == "pointin" || w[1] == "strict") return PointTests(w);
+        if (w[1] == "area") {
+            char buf[32];
+            std::snprintf(buf, sizeof buf, "%.17g\n", ShapeArea(L(w[2])));
+            return buf;
+        }
         if (w[1] == "inside") {
             std::string t;
             for (int32_t i = 0; i < g_model.TraceCount(); ++i)
@@ -425,6 +437,20 @@ class Runner {
             return text;
         }
         return "unknown word " + w[1] + "\n";
+    }
+
+    // "pointin S box|nobox x,y..": PointInShape; "strict S N x,y..": PointInPolygonStrict on
+    // the first N points of shape S.
+    static std::string PointTests(const Words& w) {
+        const int32_t i = L(w[2]);
+        const ShapePoint* points = &g_model.g_aShapePoints[static_cast<size_t>(
+            g_model.g_aShapes[static_cast<size_t>(i)].firstPoint)];
+        std::string t;
+        for (const ShapePoint& p : Points(w, 4))
+            t += " " + std::to_string(w[1] == "pointin"
+                                          ? PointInShape(i, p.x, p.y, w[3] == "box")
+                                          : PointInPolygonStrict(p.x, p.y, i, points, L(w[3])));
+        return t.substr(1) + "\n";
     }
 
     std::unique_ptr<testing_support::ScratchDir> dir_;
