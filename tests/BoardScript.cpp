@@ -13,7 +13,8 @@
 //                            anti SHAPE W H [OX OY] its anti pad, points x,y.. the last pad's
 //   via X Y NET START END STACK [rot=R] [nocontact=1]
 //   node X Y L NET CONTACT [STACK ROT] [label=T] [mirrored=M]   vianode X Y L NET CONTACT VIAREF
-//   nodeset ID label|traceRefs|viaRefs VALUE   in the flat array
+//   nodeset ID label|traceRefs|viaRefs|net VALUE   in the flat array
+//   noderow COUNT X0 L       COUNT trace ends at x = X0, X0 + 1, ..
 //   viaout NUMBER NET UPPERNET LOWERNET STACK   a via stretch from node 0 to node 1, rotation 90
 //   logfile                  a translation log; reset   a fresh model
 //   run PASS                 sort, boxes, vias, rebuild, makenode, flip, voidcheck, kickout,
@@ -22,7 +23,8 @@
 //   write SECTION            library, mirrored, packageend, shapes, layers, nodes, traces, vias
 //   print WHAT               shapes, flags, boxes, count, nodes, state, gaps, log, run L,
 //                            node L X Y, inside S (whether each trace runs into void S),
-//                            area S, pointin S box|nobox x,y.., strict S N x,y..
+//                            area S, pointin S box|nobox x,y.., strict S N x,y.., byid ID,
+//                            index, capacity (of the flat array), walk L X0 X1 [STOP]
 //   quiet COMMAND            the command, its output not compared
 #include "BoardScript.h"
 
@@ -175,7 +177,7 @@ std::string Known(const std::string& names, const std::string& word) {
 
 const char kBuildCommands[] =
     " board nets display set polygon square circle last trace readtrace traceset tracerec layer "
-    "stack pad anti points via node vianode nodeset viaout logfile ";
+    "stack pad anti points via node vianode nodeset noderow viaout logfile ";
 
 class Runner {
   public:
@@ -232,6 +234,7 @@ class Runner {
             AddViaNode(Num(w[1]), Num(w[2]), L(w[3]), Net(w[4]), static_cast<uint16_t>(Num(w[5])),
                        static_cast<uint16_t>(Num(w[6])));
         if (c == "nodeset") return NodeSet(w);
+        if (c == "noderow") return NodeRow(w);
         if (c == "viaout") return ViaOut(w);
         if (c == "logfile") g_options.g_pLogFile = std::tmpfile();
     }
@@ -360,6 +363,22 @@ class Runner {
         if (w[2] == "label") n->label = w[3];
         if (w[2] == "traceRefs") n->traceRefs = static_cast<uint32_t>(L(w[3]));
         if (w[2] == "viaRefs") n->viaRefs = static_cast<uint32_t>(L(w[3]));
+        if (w[2] == "net") n->net = L(w[3]);
+    }
+
+    static void NodeRow(const Words& w) {
+        for (int i = 0; i < L(w[1]); ++i)
+            AddNode(nullptr, Num(w[2]) + i, 0.0, L(w[3]), 0, 1, nullptr, 0.0);
+    }
+
+    // The nodes of layer L that the walk from (X0, -1) to (X1, 1) visits, up to node STOP.
+    static std::string Walk(const Words& w) {
+        std::string t;
+        WalkNodeRange(L(w[2]), Num(w[3]), -1.0, Num(w[4]), 1.0, [&](const NodeRec& node) {
+            t += " " + std::to_string(node.id);
+            return w.size() > 5 && node.id == static_cast<uint32_t>(L(w[5]));
+        });
+        return t.substr(t.empty() ? 0 : 1) + "\n";
     }
 
     static std::string Pass(const Words& w) {
@@ -412,6 +431,17 @@ class Runner {
             return std::to_string(run.first) + "-" + std::to_string(run.end) + "\n";
         }
         if (w[1] == "state") return TraceState();
+        if (w[1] == "walk") return Walk(w);
+        if (w[1] == "byid") return NodeText(NodeById(L(w[2])));
+        if (w[1] == "index") {
+            std::string t;
+            for (uint32_t place : g_model.g_aNodeIndex) t += " " + std::to_string(place);
+            return t.substr(t.empty() ? 0 : 1) + "\n";
+        }
+        if (w[1] == "capacity")
+            return std::to_string(g_model.g_aNodes.size()) + " of " +
+                   std::to_string(g_model.g_aNodes.capacity()) + " from node " +
+                   std::to_string(g_model.g_aNodes.empty() ? -1 : g_model.g_aNodes[0].id) + "\n";
         if (w[1] == "pointin" || w[1] == "strict") return PointTests(w);
         if (w[1] == "area") {
             char buf[32];
