@@ -327,7 +327,6 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "ParseVia");
     // The via lines first; pins of placed parts follow as further vias.
     if (!ParseVia(inputFile) || !PlacePins()) return FailPipeline();
-    RebuildNodeArray();
 
     double unionLength = g_options.g_dbTraceUnionLength / 1.0;
     g_model.g_dbTinyTraceLimitSquared = unionLength * unionLength;
@@ -341,11 +340,9 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     if (g_options.g_dbGapAroundAreaFillOnPlaneLayers > 0)
         AddGapStrokesOnPlaneLayers(g_options.g_dbGapAroundAreaFillOnPlaneLayers);
 
-    RebuildNodeArray();
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
-    RebuildNodeArray();
 
     RunShapeCleanupRound();
     SpreadSurfacePads();
@@ -362,12 +359,15 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "MakePackage");
     WritePackageHead(out);
 
+    // The flat copy of the nodes is read only through the node index, which the void check
+    // makes first: no pass before it and none between it and the last copy reads the array,
+    // so the copy is made only where it is read. Each copy is the whole node set.
     if (VoidCheckWanted()) {
         ShowStage("Check Undiscardable Void Shapes ...");
+        RebuildNodeArray();
         CheckUndiscardableVoids();
     }
 
-    RebuildNodeArray();
     ParseThermalTies();
 
     TraceStep(true, "Writing Via Info...");
@@ -454,5 +454,6 @@ void FreeModelArrays() {
     g_model.g_setNodes.clear();
     g_model.g_aNodes.clear();
     g_model.g_aNodeIndex.clear();
+    g_model.g_aNodeLabels.assign(1, std::string());
     g_model.g_nNodeCount = 0;
 }

@@ -51,6 +51,8 @@ SharedText LoadTextFile(const std::string& path, LoadStatus* status) {
         return nullptr;
     }
     std::string raw;
+    // One allocation of the file's size: growing by doubling would hold up to twice the input.
+    raw.reserve(static_cast<size_t>(st.st_size) + 1);
     char buf[65536];
     size_t n;
     while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) raw.append(buf, n);

@@ -137,19 +137,43 @@ bool ComponentNodes::NodeNetTaken(int32_t net) const {
     return std::binary_search(selectedNets.begin(), selectedNets.end(), net);
 }
 
+// The position text of every pin that the binding step will look up, as "x#y#layer".
+std::unordered_set<std::string> ComponentNodes::PinPlaces() const {
+    std::unordered_set<std::string> places;
+    components->ForEach([&](const std::string&, ComponentRec& c) {
+        TakePassiveForm(c);
+        bool bottom = Contains(c.placement, "bottom");
+        for (const PinRec& pin : c.pins) {
+            if (!c.isActive && pin.hasNode) continue;
+            double x = bottom ? c.x - pin.x : c.x + pin.x;
+            places.insert(NodeKey(x, c.y + pin.y, c.layer));
+        }
+    });
+    return places;
+}
+
+// Pin position text to (node number, place in the array) of the node there; a later node with
+// the same text wins. Only the pins' positions are kept: the board's other nodes never match.
+std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> ComponentNodes::PinPlaceNodes()
+    const {
+    const std::unordered_set<std::string> places = PinPlaces();
+    std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> byKey;
+    const std::vector<NodeRec>& nodes = g_model.g_aNodes;
+    std::string key;
+    for (size_t i = 0; i < nodes.size(); ++i) {
+        if (!NodeNetTaken(nodes[i].net)) continue;
+        key = NodeKey(nodes[i].x, nodes[i].y, nodes[i].layer);
+        if (places.count(key)) byKey[key] = {nodes[i].id, static_cast<uint32_t>(i)};
+    }
+    return byKey;
+}
+
 void ComponentNodes::BindPinsToNodes(base::StringMap<ComponentRec*>& blockTable) {
     GatherGroups(blockTable);
     RebuildNodePosition();
-    // Position text to "number*place"; a later node with the same key wins.
-    std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> byKey;
-    const std::vector<NodeRec>& nodes = g_model.g_aNodes;
-    for (size_t i = 0; i < nodes.size(); ++i) {
-        if (!NodeNetTaken(nodes[i].net)) continue;
-        byKey[NodeKey(nodes[i].x, nodes[i].y, nodes[i].layer)] = {nodes[i].id,
-                                                                  static_cast<uint32_t>(i)};
-    }
     if (log) std::fprintf(log, "\n\nComponent Model Info :\n\n");
     if (!components) return;
+    std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> byKey = PinPlaceNodes();
     int number = 0;
     components->ForEach([&](const std::string&, ComponentRec& c) {
         ++number;

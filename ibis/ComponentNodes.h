@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "base/StringMap.h"
@@ -46,6 +48,8 @@ class ComponentNodes {
 
   private:
     bool NodeNetTaken(int32_t net) const;
+    std::unordered_set<std::string> PinPlaces() const;
+    std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> PinPlaceNodes() const;
     bool Crosses(int32_t layer, int32_t net, double minX, double minY, double maxX, double maxY);
     // Traces by layer and start-node net, made on first use.
     std::unordered_map<int64_t, std::vector<int32_t>> tracesByLayerNet_;

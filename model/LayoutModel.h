@@ -84,6 +84,8 @@ struct LayoutModel {
     std::vector<NodeRec> g_aNodes;
     uint32_t g_nNodeCount = 0;
     std::vector<uint32_t> g_aNodeIndex;
+    // Pin names of nodes; a node's label is a place in it, 0 the empty name.
+    std::vector<std::string> g_aNodeLabels{std::string()};
 
     // Via output table.
     std::vector<ViaOutRec> g_aViaOut;

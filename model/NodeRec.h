@@ -8,6 +8,7 @@
 #include <string>
 
 #include "model/NetIndex.h"
+#include "model/NodeLabel.h"
 
 struct PadStackRec;
 
@@ -16,20 +17,23 @@ constexpr double kNodeTolerance = 6e-5;
 struct NodeRec {
     // The key: layer, x, y. The other fields may change while the record is in the set. x
     // and y may too, but only within the tolerance of where they were (a via moves its nodes
-    // onto its upper end's position): a larger move would break the set's order.
+    // onto its upper end's position): a larger move would break the set's order. The fields
+    // are ordered so that the record packs into 64 bytes: every node is held twice.
     int32_t layer = 0;
-    mutable double x = 0.0, y = 0.0;
     mutable uint32_t id = 0;
+    mutable double x = 0.0, y = 0.0;
     mutable int32_t net = kNoNet;
-    mutable uint16_t contact = 0;
     // As wide as the node numbers: one node may hold any number of ends.
     mutable uint32_t viaRefs = 0;
     mutable uint32_t traceRefs = 1;
-    mutable std::string label;  // pin name; empty when the node has none
+    mutable NodeLabel label;  // pin name; empty when the node has none
     mutable int32_t mirrored = 1;
+    mutable uint16_t contact = 0;
     mutable double rotation = 0.0;
     mutable PadStackRec* padStack = nullptr;
 };
+
+static_assert(sizeof(NodeRec) <= 64, "a node record fills one cache line at most");
 
 struct NodeOrder {
     bool operator()(const NodeRec& a, const NodeRec& b) const {

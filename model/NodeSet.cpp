@@ -113,6 +113,8 @@ void WalkNodeRange(int32_t layer, double minX, double minY, double maxX, double 
 
 void RebuildNodeArray() {
     const NodeSet& set = g_model.g_setNodes;
+    // The old copy goes first, so that two copies are never held at once.
+    std::vector<NodeRec>().swap(g_model.g_aNodes);
     std::vector<NodeRec> nodes;
     nodes.reserve((set.size() / kNodeArrayBlock + 1) * kNodeArrayBlock);
     nodes.assign(set.begin(), set.end());

@@ -73,6 +73,23 @@ void WriteNodeLine(FILE* out, const NodeRec& node, const std::string& name, int3
     PutText(out, line);
 }
 
+// Array entries whose node number appears more than once. A node's name is its number
+// followed by a suffix that starts with a non-digit, so only entries of one number can share a
+// name; the names of those few are remembered, the rest print without a look-up.
+std::vector<bool> RepeatedNumbers(const std::vector<NodeRec>& nodes, size_t count) {
+    std::vector<bool> seen, repeated;
+    for (size_t i = 0; i < count; ++i) {
+        size_t id = nodes[i].id;
+        if (id >= seen.size()) {
+            seen.resize(std::max(id + 1, seen.size() * 2));
+            repeated.resize(seen.size());
+        }
+        if (seen[id]) repeated[id] = true;
+        seen[id] = true;
+    }
+    return repeated;
+}
+
 }  // namespace
 
 void WriteNodes(FILE* out) {
@@ -80,17 +97,20 @@ void WriteNodes(FILE* out) {
     RebuildNodeIndex();
     const std::vector<NodeRec>& nodes = g_model.g_aNodes;
     const size_t count = std::min(nodes.size(), g_model.g_setNodes.size());
+    const std::vector<bool> repeated = RepeatedNumbers(nodes, count);
     std::unordered_set<std::string> printed;
-    printed.reserve(count);
     const int32_t bottom = LastConductorLayer();
-    std::string line;
+    std::string line, name;
     for (size_t i = 0; i < count; ++i) {
         const NodeRec& node = nodes[i];
         if (node.viaRefs == 0 && node.traceRefs == 0) continue;
         if (!PrintsForNet(node.net)) continue;
-        std::string name = "Node" + Affix() + std::to_string(static_cast<int32_t>(node.id)) +
-                           PinLabelSuffix(node.label) + NetSuffix(node.net);
-        if (!printed.insert(name).second) continue;
+        name.assign("Node");
+        name += Affix();
+        AppendInt(name, static_cast<int32_t>(node.id));
+        if (!node.label.empty()) name.append("!!").append(node.label);
+        name += NetSuffix(node.net);
+        if (repeated[node.id] && !printed.insert(name).second) continue;
         WriteNodeLine(out, node, name, bottom, line);
     }
 }

@@ -9,7 +9,7 @@
 namespace {
 
 // The pin label of a node id, through the id-to-index map.
-const std::string& NodeLabel(uint32_t id) {
+const std::string& LabelOfNode(uint32_t id) {
     static const std::string none;
     const auto& index = g_model.g_aNodeIndex;
     if (id >= index.size() || index[id] >= g_model.g_aNodes.size()) return none;
@@ -30,10 +30,11 @@ void WriteVias(FILE* out) {
         if (!g_options.g_nIncludeNoNetEtches && v.net == kNoNet) continue;
         std::fprintf(out, "Via%s%d%s UpperNode = Node%s%d%s%s LowerNode = Node%s%d%s%s Color = %s",
                      affix, static_cast<int>(v.number), NetSuffix(v.net).c_str(), affix,
-                     static_cast<int>(v.upperNode), PinLabelSuffix(NodeLabel(v.upperNode)).c_str(),
+                     static_cast<int>(v.upperNode),
+                     PinLabelSuffix(LabelOfNode(v.upperNode)).c_str(),
                      NetSuffix(v.upperNet).c_str(), affix, static_cast<int>(v.lowerNode),
-                     PinLabelSuffix(NodeLabel(v.lowerNode)).c_str(), NetSuffix(v.lowerNet).c_str(),
-                     ViaColor(v.net));
+                     PinLabelSuffix(LabelOfNode(v.lowerNode)).c_str(),
+                     NetSuffix(v.lowerNet).c_str(), ViaColor(v.net));
         if (v.padStack)
             std::fprintf(out, " PadStack = %s%s AbsoluteRotation = %.6f\n", affix,
                          v.padStack->name.c_str(), v.rotation);
