@@ -119,7 +119,7 @@ std::string NodeText(const NodeRec* n) {
     std::snprintf(buf, sizeof buf, "node %u L%d %.17g,%.17g n%d c%u t%u v%u", n->id, n->layer, n->x,
                   n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
     std::string text = buf;
-    if (!n->label.empty()) text += " " + n->label;
+    if (!n->label.empty()) text += " " + n->label.str();
     if (n->padStack || n->rotation != 0)
         text += " " + (n->padStack ? n->padStack->name : "-") + "@" + std::to_string(n->rotation);
     return text + "\n";
