@@ -14,14 +14,22 @@ struct GateState {
     std::string net;
 };
 
+// A line's first two tokens, unquoted: the places where a property line names its property.
+struct NamingTokens {
+    explicit NamingTokens(const std::string& line)
+        : first(StripQuotes(NddToken(line, 1))), second(StripQuotes(NddToken(line, 2))) {}
+    std::string first, second;
+};
+
 // The value of a line that names the property (or its alias) in its first or second token:
 // the second token, or the third on a "%prop" line. False when the line does not name it.
-bool PropertyValue(const std::string& line, const char* key, std::string& value) {
+bool PropertyValue(const std::string& line, const NamingTokens& tokens, const char* key,
+                   std::string& value) {
     std::string alias = PropertyAlias(key);
-    std::string token0 = StripQuotes(NddToken(line, 1));
-    std::string token1 = StripQuotes(NddToken(line, 2));
-    if (token0 != key && token0 != alias && token1 != key && token1 != alias) return false;
-    value = Contains(line, "%prop") ? StripQuotes(NddToken(line, 3)) : token1;
+    if (tokens.first != key && tokens.first != alias && tokens.second != key &&
+        tokens.second != alias)
+        return false;
+    value = Contains(line, "%prop") ? StripQuotes(NddToken(line, 3)) : tokens.second;
     return true;
 }
 
@@ -45,11 +53,12 @@ void SetPartNumber(GateState& state, const std::string& partNumber, const std::s
 
 void GateLine(const std::string& line, GateState& state, const std::string& folder) {
     std::string value;
-    if (!Contains(line, "%port") && PropertyValue(line, kRefDesProperty, value)) {
+    const NamingTokens tokens(line);
+    if (!Contains(line, "%port") && PropertyValue(line, tokens, kRefDesProperty, value)) {
         state.component = g_model.g_mapComponents.Find(value);
         if (state.component && !state.partNumber.empty())
             state.component->partNumber = state.partNumber;
-    } else if (PropertyValue(line, kPartNumberProperty, value)) {
+    } else if (PropertyValue(line, tokens, kPartNumberProperty, value)) {
         SetPartNumber(state, value, folder);
     } else if (IsPortLine(line)) {
         state.port = StripQuotes(NddToken(line, 2));
@@ -57,7 +66,7 @@ void GateLine(const std::string& line, GateState& state, const std::string& fold
     } else if (StartsWith(line, "%powerport")) {
         state.net = StripQuotes(NddToken(line, 3));
         state.port = StripQuotes(NddToken(line, 4));
-    } else if (PropertyValue(line, kPinNumberProperty, value)) {
+    } else if (PropertyValue(line, tokens, kPinNumberProperty, value)) {
         state.port = value;
         if (!state.component) return;
         for (PinRec& pin : state.component->pins)

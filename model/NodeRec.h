@@ -9,6 +9,7 @@
 
 #include "model/NetIndex.h"
 #include "model/NodeLabel.h"
+#include "model/NodePool.h"
 
 struct PadStackRec;
 
@@ -48,4 +49,4 @@ struct NodeOrder {
     }
 };
 
-using NodeSet = std::set<NodeRec, NodeOrder>;
+using NodeSet = std::set<NodeRec, NodeOrder, NodePoolAllocator<NodeRec>>;

@@ -23,12 +23,18 @@ bool ReachesFile(const TraceRec& trace, int32_t net) {
 }
 
 // A node reference is spelt as the node's own line spells its name, with the node's net,
-// which may differ from the trace's.
-std::string NodeReference(int32_t id) {
+// which may differ from the trace's. Appended in place: a board has two per trace.
+void AppendNodeReference(std::string& line, int32_t id) {
     const NodeRec* node = NodeById(id);
-    std::string ref = "Node" + Affix() + std::to_string(id);
-    if (node) ref += PinLabelSuffix(node->label) + NetSuffix(node->net);
-    return ref;
+    line += "Node";
+    line += Affix().c_str();
+    AppendInt(line, id);
+    if (!node) return;
+    if (!node->label.empty()) {
+        line += "!!";
+        line += node->label.str().c_str();
+    }
+    line += NetSuffix(node->net).c_str();
 }
 
 }  // namespace
@@ -47,9 +53,9 @@ void WriteTraces(FILE* out) {
         AppendInt(line, static_cast<int>(t));
         line += NetSuffix(net).c_str();
         line += " StartingNode = ";
-        line += NodeReference(trace.startNode).c_str();
+        AppendNodeReference(line, trace.startNode);
         line += " EndingNode = ";
-        line += NodeReference(trace.endNode).c_str();
+        AppendNodeReference(line, trace.endNode);
         line += " Width = ";
         AppendExp(line, trace.width * kOutputScale, 6);
         line += "mm";

@@ -8,7 +8,6 @@
 
 #include "dialogs/ColorPicker.h"
 #include "dialogs/forms/ControlIds.h"
-#include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "ui/UiControls.h"
 
 namespace {
@@ -28,10 +27,6 @@ const PickerCase kCases[] = {
 }  // namespace
 
 TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
-    // The forms are the program's; the manager that was registered comes back afterwards.
-    IQtResourceMgr* previous = RegisteredResourceMgr();
-    CQtNdd2QfxResourceMgr resources;
-    RegisterResourceMgr(&resources);
     for (const PickerCase& c : kCases) {
         CColorPicker picker(c.start);
         QRgb middle = 1;
@@ -60,5 +55,4 @@ TEST(ColorPicker, ReturnsTheChosenIndexAndShowsItsColour) {
         else
             EXPECT_NE(qAlpha(middle), 0u);  // the button's own face, not a colour
     }
-    RegisterResourceMgr(previous);
 }

@@ -1,19 +1,14 @@
-// The IBIS file page: which parts it lists, what choosing a file does to a part, and a part
-// mapped through the pin mapping dialog taking part in the IBIS step.
+// The IBIS file page: which parts it lists and what choosing a file does to a part. A part
+// mapped through the pin mapping dialog is in IbisRunTest.
 #include <gtest/gtest.h>
 
-#include <QComboBox>
 #include <algorithm>
 
 #include "Fixtures.h"
-#include "TestSupport.h"
 #include "dialogs/IBISFileSelector.h"
-#include "dialogs/forms/ControlIds.h"
 #include "ibis/ModelAssignment.h"
 #include "model/TranslationOptions.h"
-#include "tests/dialogs/ScriptedModals.h"
-#include "ui/MessageBox.h"
-#include "ui/UiListCtrl.h"
+#include "tests/dialogs/DialogTestSupport.h"
 
 namespace {
 
@@ -53,12 +48,7 @@ class IbisFileSelectorTest : public ::testing::Test {
 
     // "part|file|designators|check", sorted by part.
     std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        for (int r = 0; r < List().GetItemCount(); ++r)
-            rows.push_back(List().GetItemText(r, 0).toStdString() + "|" +
-                           List().GetItemText(r, 1).toStdString() + "|" +
-                           List().GetItemText(r, 2).toStdString() + "|" +
-                           (List().GetCheck(r) ? "x" : "-"));
+        std::vector<std::string> rows = CheckedRows(&List(), 0, 2);
         std::sort(rows.begin(), rows.end());
         return rows;
     }
@@ -72,29 +62,16 @@ class IbisFileSelectorTest : public ::testing::Test {
     CIBISFileSelector page{answers.Make(), &models};
 };
 
-struct Listing {
-    int chosenNet;  // -1: no net selection
-    std::vector<std::string> rows;
-};
-
-const Listing kListings[] = {
-    {-1, {"BUF2||U1, U3, |-", "SMALL||U2, |-"}},
-    {0, {"SMALL||U2, |-"}},
-};
-
 }  // namespace
 
 TEST_F(IbisFileSelectorTest, ListsActivePartsOfTheChosenNets) {
-    for (const Listing& listing : kListings) {
-        g_options.g_bSelectedOnly = listing.chosenNet >= 0;
-        g_options.g_nSelectedNetCount = listing.chosenNet >= 0 ? 1 : 0;
-        g_options.g_pSelectedNets = {listing.chosenNet};
-        if (!page.GetHandle())
-            Open();
-        else
-            page.FillList();
-        EXPECT_EQ(Rows(), listing.rows);
-    }
+    Open();
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"BUF2||U1, U3, |-", "SMALL||U2, |-"}));
+    g_options.g_bSelectedOnly = 1;
+    g_options.g_nSelectedNetCount = 1;
+    g_options.g_pSelectedNets = {0};
+    page.FillList();
+    EXPECT_EQ(Rows(), std::vector<std::string>{"SMALL||U2, |-"});
 }
 
 TEST_F(IbisFileSelectorTest, ForeignPinsKeepTheOldFileAndAMatchingFileIsTaken) {
@@ -115,31 +92,4 @@ TEST_F(IbisFileSelectorTest, ForeignPinsKeepTheOldFileAndAMatchingFileIsTaken) {
     EXPECT_EQ(table["U3"].ibisFile, file);
     EXPECT_EQ(assignments["BUF2"], file);
     EXPECT_FALSE(assignments.Contains("SMALL"));
-}
-
-// Both signal pins linked to both groups make the mapping complete: the row is checked, and
-// OK names the part for the IBIS step.
-TEST_F(IbisFileSelectorTest, EditedMappingChecksThePartForTheIbisStep) {
-    Open();
-    answers.files = {file};
-    emit List().itemDoubleClicked(Row("BUF2"), 0);
-    List().SetFocusedRow(Row("BUF2"));
-    ScriptedModals modals(
-        {[](CUiDialog& d) {
-             d.OnCmdMsg(IDC_BUTTON_CHECK_ALL, kCodeClicked, nullptr, false);
-             d.OnCmdMsg(IDC_BUTTON_LINK_GROUPS, kCodeClicked, nullptr, false);
-             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
-         },
-         [](CUiDialog& d) {
-             for (int id : {IDC_COMBO_PULL_UP, IDC_COMBO_POWER_CLAMP, IDC_COMBO_PULL_DOWN,
-                            IDC_COMBO_GROUND_CLAMP})
-                 qobject_cast<QComboBox*>(d.GetDlgItem(id)->GetHandle())->setCurrentIndex(1);
-             d.OnCmdMsg(IDOK, kCodeClicked, nullptr, false);
-         }});
-    page.OnCmdMsg(IDC_BUTTON_EDIT_IBIS_FILE, kCodeClicked, nullptr, false);
-    EXPECT_EQ(modals.Ran(), 2u);
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"BUF2|" + file + "|U1, U3, |x", "SMALL||U2, |-"}));
-    page.OnOK();
-    EXPECT_EQ(models.ibisParts.Keys(), (std::vector<std::string>{"BUF2"}));
-    EXPECT_EQ(models.ibisParts["BUF2"], "T");
 }

@@ -4,26 +4,16 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <QComboBox>
 
-#include "TestSupport.h"
 #include "base/Platform.h"
-#include "dialogs/Ndd2QfxDlg.h"
 #include "dialogs/Ndd2QfxSetting.h"
-#include "dialogs/forms/ControlIds.h"
 #include "ibis/CircuitForm.h"
 #include "model/ReportMessage.h"
-#include "tests/dialogs/ScriptedModals.h"
-#include "ui/MessageBox.h"
-#include "ui/UiListCtrl.h"
+#include "tests/dialogs/DialogTestSupport.h"
 
 namespace {
 
 using namespace testing_support;
-
-void Press(CUiDialog& d, int id) {
-    d.OnCmdMsg(static_cast<unsigned>(id), kCodeClicked, nullptr, false);
-}
 
 // The lines of the deck from the part's circuit block to its end.
 std::vector<std::string> Block(const std::string& deck, const std::string& head) {
@@ -42,11 +32,8 @@ class IbisRunTest : public ::testing::Test {
         ResetGlobals();
         g_bKeepActiveFormForTests = true;
         start = base::CurrentFolder();
-        for (const char* name : {"board.ndd", "traces", "layout.hkp"})
-            dir.Write(name, ReadFile(std::string(NDD2QFX_SOURCE_DIR "/examples/") + name));
         mkdir(dir.File("IBISModels").c_str(), 0755);
-        dir.Write("IBISModels/SN74LVC1G14.ibs",
-                  ReadFile(NDD2QFX_SOURCE_DIR "/examples/IBISModels/SN74LVC1G14.ibs"));
+        CopyExamples(dir, {"board.ndd", "traces", "layout.hkp", "IBISModels/SN74LVC1G14.ibs"});
     }
     void TearDown() override {
         g_bKeepActiveFormForTests = false;
@@ -62,10 +49,7 @@ class IbisRunTest : public ::testing::Test {
 TEST_F(IbisRunTest, APartMappedInTheDialogIsWrittenInItsActiveForm) {
     AnsweredServices answers;
     answers.files = {dir.File("traces"), dir.File("layout.hkp")};
-    CNdd2QfxDlg main(answers.Make());
-    main.Create(IDD_Ndd2Qfx_DIALOG);
-    main.SetDlgItemText(IDC_EDIT_INPUT, dir.File("board.ndd"));
-    main.SetDlgItemText(IDC_EDIT_OUTPUT, dir.File("board.qfx"));
+    auto main = OpenMainDialog(answers, dir.File("board.ndd"), dir.File("board.qfx"));
     std::vector<std::string> rows;
     ScriptedModals modals(
         {[&](CUiDialog& s) {
@@ -75,8 +59,7 @@ TEST_F(IbisRunTest, APartMappedInTheDialogIsWrittenInItsActiveForm) {
              ASSERT_EQ(parts.GetItemCount(), 1);
              parts.SetFocusedRow(0);
              Press(settings.IbisPage(), IDC_BUTTON_EDIT_IBIS_FILE);
-             for (int c = 0; c < 3; ++c) rows.push_back(parts.GetItemText(0, c).toStdString());
-             rows.push_back(parts.GetCheck(0) ? "x" : "-");
+             rows = CheckedRows(&parts, 0, 2);
              Press(s, kIdOk);
          },
          [](CUiDialog& mapping) {
@@ -84,20 +67,15 @@ TEST_F(IbisRunTest, APartMappedInTheDialogIsWrittenInItsActiveForm) {
                  Press(mapping, id);
              Press(mapping, IDOK);
          },
-         [](CUiDialog& groups) {
-             for (int id : {IDC_COMBO_PULL_UP, IDC_COMBO_POWER_CLAMP, IDC_COMBO_PULL_DOWN,
-                            IDC_COMBO_GROUND_CLAMP})
-                 qobject_cast<QComboBox*>(groups.GetDlgItem(id)->GetHandle())->setCurrentIndex(1);
-             Press(groups, IDOK);
-         }});
-    main.OnProperty();
+         [](CUiDialog& groups) { ChooseGroups(groups); }});
+    main->OnProperty();
     EXPECT_EQ(modals.Ran(), 3u);
-    EXPECT_EQ(rows, (std::vector<std::string>{"SN74LVC1G14", dir.File("IBISModels/SN74LVC1G14.ibs"),
-                                              "U1, ", "x"}));
+    EXPECT_EQ(rows, std::vector<std::string>{"SN74LVC1G14|" +
+                                             dir.File("IBISModels/SN74LVC1G14.ibs") + "|U1, |x"});
     {
         // No traces file was named: its question is the only one, answered No.
         CMessageBoxAnswers boxes({kAnswerNo});
-        main.OnOK();
+        main->OnOK();
         EXPECT_EQ(boxes.Shown().size(), 1u);
     }
     const std::string model = "+ file='" + dir.File("IBISModels/SN74LVC1G14.ibs") + "' model=";

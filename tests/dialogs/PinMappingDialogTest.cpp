@@ -4,18 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QComboBox>
 #include <QMouseEvent>
 
-#include "TestSupport.h"
 #include "dialogs/PowerPinSelector.h"
 #include "dialogs/SignalPinRows.h"
-#include "dialogs/forms/ControlIds.h"
 #include "ibis/IbisReader.h"
 #include "model/ReportMessage.h"
-#include "tests/dialogs/ScriptedModals.h"
-#include "ui/MessageBox.h"
-#include "ui/UiListCtrl.h"
+#include "tests/dialogs/DialogTestSupport.h"
 
 namespace {
 
@@ -50,44 +45,27 @@ void Drag(CUiListCtrl& list, const std::string& from, const std::string& onto) {
     Mouse(list, QEvent::MouseButtonRelease, end, Qt::NoButton);
 }
 
-// "text:image" of every row of the groups list.
-std::vector<std::string> GroupRows(CPowerPinSelector& d) {
-    std::vector<std::string> rows;
-    CUiListCtrl* list = d.GroupList();
-    for (int r = 0; r < list->GetItemCount(); ++r)
-        rows.push_back(list->GetItemText(r, 0).toStdString() + ":" +
-                       std::to_string(list->GetItemImage(r)));
-    return rows;
-}
-
 // "pin|pulldown|pullup|gndclamp|powerclamp|check" of every signal pin row.
 std::vector<std::string> PinRows(CPowerPinSelector& d) {
-    std::vector<std::string> rows;
-    CUiListCtrl* list = d.PinList();
-    for (int r = 0; r < list->GetItemCount(); ++r) {
-        std::string row;
-        for (int c = kColPin; c <= kLastRefColumn; ++c)
-            row += list->GetItemText(r, c).toStdString() + "|";
-        rows.push_back(row + (list->GetCheck(r) ? "x" : "-"));
-    }
-    return rows;
+    return CheckedRows(d.PinList(), kColPin, kLastRefColumn);
 }
 
-std::vector<std::string> Texts(const CMessageBoxAnswers& boxes) {
-    std::vector<std::string> texts;
-    for (const ShownMessageBox& box : boxes.Shown()) texts.push_back(box.text);
-    return texts;
+// Part BUF2 with the five pins of buf2.ibs, read from file.
+ComponentRec Buffer(const std::string& file) {
+    ComponentRec part;
+    part.isActive = 1;
+    part.partNumber = "BUF2";
+    for (const char* name : {"1", "2", "3", "4", "5"}) part.pins.emplace_back().name = name;
+    part.ibisFile = file;
+    ParseIbisFile(part);
+    return part;
 }
 
 class PinMappingDialogTest : public ::testing::Test {
   protected:
     void SetUp() override {
         ResetGlobals();
-        part.isActive = 1;
-        part.partNumber = "BUF2";
-        for (const char* name : {"1", "2", "3", "4", "5"}) part.pins.emplace_back().name = name;
-        part.ibisFile = dir.Write("buf2.ibs", ReadFile(kBuffer));
-        ParseIbisFile(part);
+        part = Buffer(dir.Write("buf2.ibs", ReadFile(kBuffer)));
     }
 
     // Runs the dialog; its first script is the person at the dialog, further ones answer the
@@ -104,7 +82,6 @@ class PinMappingDialogTest : public ::testing::Test {
         return dialog.DoModal();
     }
     static CPowerPinSelector& Pins(CUiDialog& d) { return static_cast<CPowerPinSelector&>(d); }
-    static void Press(CUiDialog& d, int id) { d.OnCmdMsg(id, kCodeClicked, nullptr, false); }
 
     ScratchDir dir;
     ComponentRec part;
@@ -135,10 +112,10 @@ TEST_F(PinMappingDialogTest, DeleteGroupRefusesWithTheDialogsWordsAndCancelKeeps
         int result = Run({[&](CUiDialog& d) {
             CUiListCtrl& list = *Pins(d).GroupList();
             ClickPicture(list, "PWRGRP0");
-            rows = GroupRows(Pins(d));
+            rows = Rows(Pins(d).GroupList());
             for (const char* text : refusal.chosen) list.SetItemSelected(Row(list, text), true);
             Press(d, IDC_BUTTON_DELETE_GROUP);
-            EXPECT_EQ(GroupRows(Pins(d)), rows);
+            EXPECT_EQ(Rows(Pins(d).GroupList()), rows);
             Press(d, IDCANCEL);
         }});
         EXPECT_EQ(rows, (std::vector<std::string>{"PWRGRP0:1", "4 -  PWR:9", "GNDGRP0:3",
@@ -160,7 +137,7 @@ TEST_F(PinMappingDialogTest, AddedGroupsTakeTheFirstFreeName) {
         Press(d, IDC_BUTTON_DELETE_GROUP);
         Press(d, IDC_BUTTON_ADD_GROUP);
         EXPECT_EQ(
-            GroupRows(Pins(d)),
+            Rows(Pins(d).GroupList()),
             (std::vector<std::string>{"PWRGRP0:0", "GNDGRP0:3", "PWRGRP2:2", "GNDGRP1:5",
                                       "PC_GRP0:2", "GC_GRP0:5", "PWRGRP1:2", "AVAILABLE PINS:6"}));
         Press(d, IDCANCEL);
@@ -183,34 +160,20 @@ TEST_F(PinMappingDialogTest, DroppedPinMovesAndItsEmptiedGroupIsClearedEverywher
              CUiListCtrl& list = *pins.GroupList();
              ClickPicture(list, "PWRGRP0");
              Drag(list, "4 -  PWR", "GNDGRP0");
-             EXPECT_EQ(GroupRows(pins),
+             EXPECT_EQ(Rows(pins.GroupList()),
                        (std::vector<std::string>{"PWRGRP0:2", "GNDGRP0:3", "AVAILABLE PINS:6"}));
              ClickPicture(list, "GNDGRP0");
-             EXPECT_EQ(GroupRows(pins),
+             EXPECT_EQ(Rows(pins.GroupList()),
                        (std::vector<std::string>{"PWRGRP0:2", "GNDGRP0:4", "4 -  PWR:9",
                                                  "3 -  GND:9", "AVAILABLE PINS:6"}));
              EXPECT_EQ(PinRows(pins), (std::vector<std::string>{"1|||GNDGRP0||-", "2|||||-"}));
              Press(d, IDOK);
          },
-         [](CUiDialog& d) {
-             auto& selector = static_cast<CUiDialog&>(d);
-             for (int id : {IDC_COMBO_PULL_UP, IDC_COMBO_POWER_CLAMP})
-                 qobject_cast<QComboBox*>(selector.GetDlgItem(id)->GetHandle())
-                     ->setCurrentText("PWRGRP0");
-             for (int id : {IDC_COMBO_PULL_DOWN, IDC_COMBO_GROUND_CLAMP})
-                 qobject_cast<QComboBox*>(selector.GetDlgItem(id)->GetHandle())
-                     ->setCurrentText("GNDGRP0");
-             Press(d, IDOK);
-         }});
+         [](CUiDialog& d) { ChooseGroups(d); }});
     EXPECT_EQ(result, kIdOk);
     EXPECT_TRUE(boxes.Shown().empty());
-    ComponentRec back;
-    back.isActive = 1;
-    for (const char* name : {"1", "2", "3", "4", "5"}) back.pins.emplace_back().name = name;
-    back.ibisFile = part.ibisFile;
-    ParseIbisFile(back);
     std::vector<std::string> read;
-    for (const PinRec& pin : back.pins)
+    for (const PinRec& pin : Buffer(part.ibisFile).pins)
         read.push_back(pin.name + " " + std::to_string(pin.pinClass) + " " + pin.groundGroup + " " +
                        pin.gndClampRef);
     EXPECT_EQ(read, (std::vector<std::string>{"1 0  GNDGRP0", "2 0  ", "3 2 GNDGRP0 ",

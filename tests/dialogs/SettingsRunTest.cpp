@@ -1,82 +1,23 @@
-// The Settings dialog inside a dialog run: what the main window's opening leaves, Settings
+// The Settings dialog inside a dialog run: what a batch run leaves of the options, Settings
 // without an input, and a whole run through the real dialogs: nets and a colour chosen, side
 // files named, translated, and the log loaded again in a new run.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <memory>
 #include <regex>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "Fixtures.h"
-#include "TestSupport.h"
 #include "app/Ndd2QfxApp.h"
 #include "base/Platform.h"
-#include "dialogs/Ndd2QfxDlg.h"
 #include "dialogs/Ndd2QfxSetting.h"
-#include "dialogs/forms/ControlIds.h"
 #include "model/TranslationOptions.h"
-#include "tests/dialogs/ScriptedModals.h"
-#include "ui/MessageBox.h"
+#include "tests/dialogs/DialogTestSupport.h"
 #include "ui/UiControls.h"
-#include "ui/UiListCtrl.h"
 
 namespace {
 
 using namespace testing_support;
-
-std::unique_ptr<CNdd2QfxDlg> OpenMainDialog(AnsweredServices& answers) {
-    auto dialog = std::make_unique<CNdd2QfxDlg>(answers.Make());
-    dialog->Create(IDD_Ndd2Qfx_DIALOG);
-    return dialog;
-}
-
-void Press(CUiDialog& d, int id) {
-    d.OnCmdMsg(static_cast<unsigned>(id), kCodeClicked, nullptr, false);
-}
-
-TEST(SettingsRun, TheMainWindowsOpeningClearsTheViaVoidFlagABatchRunKeepsIt) {
-    ResetGlobals();
-    ScratchDir dir;
-    AnsweredServices answers;
-    auto d = OpenMainDialog(answers);
-    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 0);
-    d.reset();
-    ResetGlobals();
-    const std::string start = base::CurrentFolder();
-    std::string board = dir.Write("b.ndd", ReadFile(NDD2QFX_SOURCE_DIR "/examples/board.ndd"));
-    CNdd2QfxApp app({"ndd2qfx", "-NoUI", board, dir.File("b.qfx")});
-    app.InitInstance();
-    base::ChangeFolder(start);
-    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
-}
-
-TEST(SettingsRun, SettingsWithAnEmptyInputOpensWithNoNets) {
-    ResetGlobals();
-    fixtures::MakeNets({"A", "B"});
-    AnsweredServices answers;
-    auto d = OpenMainDialog(answers);
-    int rows = -1;
-    ScriptedModals modals({[&](CUiDialog& s) {
-        rows = static_cast<CNdd2QfxSetting&>(s).NetChoicePage().NetList()->GetItemCount();
-        Press(s, kIdCancel);
-    }});
-    d->OnProperty();
-    EXPECT_EQ(modals.Ran(), 1u);
-    EXPECT_EQ(rows, 0);
-}
-
-// "NAME:colour" of the chosen nets.
-std::vector<std::string> Chosen(CNetChoice& page) {
-    std::vector<std::string> rows;
-    CUiListCtrl* list = page.ChoiceList();
-    for (int r = 0; r < list->GetItemCount(); ++r)
-        rows.push_back(list->GetItemText(r, 0).toStdString() + ":" +
-                       std::to_string(list->GetItemImage(r)));
-    return rows;
-}
 
 // The nets that name objects of a deck, and the colour of each net's traces.
 std::set<std::string> NetsAndTraceColours(const std::string& deck) {
@@ -97,15 +38,12 @@ class SettingsRunTest : public ::testing::Test {
     void SetUp() override {
         ResetGlobals();
         start = base::CurrentFolder();
-        board = Copy("examples/board.ndd", "board.ndd");
-        traces = Copy("examples/traces", "traces");
-        hkp = Copy("examples/layout.hkp", "layout.hkp");
-        output = dir.File("board.qfx");
+        board = CopyExamples(dir, {"board.ndd"});
+        traces = CopyExamples(dir, {"traces"});
+        hkp = CopyExamples(dir, {"layout.hkp"});
     }
     void TearDown() override { base::ChangeFolder(start); }
-    std::string Copy(const std::string& from, const std::string& name) {
-        return dir.Write(name, ReadFile(std::string(NDD2QFX_SOURCE_DIR "/") + from));
-    }
+
     // The Settings step of a window: the script chooses, the side files are named by the
     // browsers, and OK.
     void Settings(CNdd2QfxDlg& d, const std::function<void(CNetChoice&)>& choose) {
@@ -121,26 +59,43 @@ class SettingsRunTest : public ::testing::Test {
     }
 
     ScratchDir dir;
-    std::string start, board, traces, hkp, output;
+    std::string start, board, traces, hkp, output = dir.File("board.qfx");
 };
+
+// The main window's opening clears the flag (see MainDialogTest); a batch run keeps it.
+TEST_F(SettingsRunTest, ABatchRunKeepsTheViaVoidFlag) {
+    CNdd2QfxApp app({"ndd2qfx", "-NoUI", board, output});
+    app.InitInstance();
+    EXPECT_EQ(g_options.g_bExcludeVoidEnclosingVia, 1);
+}
+
+TEST_F(SettingsRunTest, SettingsWithAnEmptyInputOpensWithNoNets) {
+    fixtures::MakeNets({"A", "B"});
+    AnsweredServices answers;
+    int rows = -1;
+    ScriptedModals modals({[&](CUiDialog& s) {
+        rows = static_cast<CNdd2QfxSetting&>(s).NetChoicePage().NetList()->GetItemCount();
+        Press(s, kIdCancel);
+    }});
+    OpenMainDialog(answers)->OnProperty();
+    EXPECT_EQ(modals.Ran(), 1u);
+    EXPECT_EQ(rows, 0);
+}
 
 TEST_F(SettingsRunTest, ChosenNetsAndColourReachTheDeckAndTheLogAndComeBackFromTheLog) {
     AnsweredServices first;
     first.files = {traces, hkp};
     first.colours = {10};
-    auto d = OpenMainDialog(first);
-    d->SetDlgItemText(IDC_EDIT_INPUT, board);
-    d->SetDlgItemText(IDC_EDIT_OUTPUT, output);
+    auto d = OpenMainDialog(first, board, output);
     Settings(*d, [](CNetChoice& page) {
         CUiListCtrl* all = page.NetList();
         for (const char* name : {"VCC", "CLK", "GND"})
             all->SetItemSelected(all->FindItem(name), true);
         QCoreApplication::processEvents();
-        EXPECT_EQ(Chosen(page), (std::vector<std::string>{"CLK:1", "GND:3", "VCC:4"}));
+        EXPECT_EQ(Rows(page.ChoiceList()), (std::vector<std::string>{"CLK:1", "GND:3", "VCC:4"}));
         emit page.ChoiceList()->itemClicked(0, 0, QPoint());
     });
-    EXPECT_EQ(g_options.g_strTraceFile, traces);
-    EXPECT_EQ(g_options.g_strHkpFile, hkp);
+    EXPECT_EQ(g_options.g_strTraceFile + " " + g_options.g_strHkpFile, traces + " " + hkp);
     {
         // With a traces file named, the run asks nothing.
         CMessageBoxAnswers boxes;
@@ -164,7 +119,7 @@ TEST_F(SettingsRunTest, ChosenNetsAndColourReachTheDeckAndTheLogAndComeBackFromT
     again->OnLoadLog();
     EXPECT_EQ(again->GetDlgItemText(IDC_EDIT_INPUT), board);
     Settings(*again, [](CNetChoice& page) {
-        EXPECT_EQ(Chosen(page), (std::vector<std::string>{"CLK:10", "GND:3", "VCC:4"}));
+        EXPECT_EQ(Rows(page.ChoiceList()), (std::vector<std::string>{"CLK:10", "GND:3", "VCC:4"}));
     });
     {
         CMessageBoxAnswers boxes;  // yes, replace the deck of the first run

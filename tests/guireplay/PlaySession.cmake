@@ -3,8 +3,9 @@
 # The session folder holds session.brf, session.xml and CheckPointFiles/, and may hold:
 #   args.txt      the program's arguments; @SOURCE@ stands for the source tree
 #   inputs.txt    files copied into WORK before the play, one a line; @SOURCE@ as above
-#   expected.txt  lines the play log must hold (time stamps left out); without it the play must
-#                 end with "Play Ended", every check point passing and no error.
+#   expected.txt  whole lines the play log must hold (time stamps left out; @WORK@ stands for
+#                 WORK); without it the play must end with "Play Ended", every check point
+#                 passing and no error.
 # The folder is copied to WORK, which is the program's working folder, so that nothing of the
 # play is written into the source tree.
 cmake_policy(SET CMP0053 NEW)
@@ -36,7 +37,8 @@ set(failures "")
 if(EXISTS ${WORK}/expected.txt)
   file(STRINGS ${WORK}/expected.txt expected)
   foreach(line IN LISTS expected)
-    string(FIND "${log}" "${line}" at)
+    string(REPLACE "@WORK@" "${WORK}" line "${line}")
+    string(FIND "\n${log}" "\n${line}\n" at)
     if(at EQUAL -1)
       string(APPEND failures "missing: ${line}\n")
     endif()

@@ -1,5 +1,6 @@
-// The XML record and the text script: what is written, what is read back, and how a script
-// is paired with its record.
+// The XML record and the text script: what is read and written back, and how a script is
+// paired with its record. The record of format/ holds one step of every event kind, with line
+// breaks in its texts.
 #include <gtest/gtest.h>
 
 #include <QBuffer>
@@ -8,7 +9,6 @@
 #include <QTemporaryDir>
 
 #include "ReplayTestSupport.h"
-#include "SampleSession.h"
 #include "guireplay/EventPlayer.h"
 #include "guireplay/RecordXml.h"
 #include "guireplay/ScriptReader.h"
@@ -17,6 +17,14 @@
 using namespace guireplay;
 
 namespace {
+
+Session Sample() {
+    Session read;
+    QString error;
+    EXPECT_TRUE(LoadRecordXml(DataPath("format/all_kinds.xml"), read, error))
+        << error.toStdString();
+    return read;
+}
 
 QString XmlOf(const Session& session) {
     QBuffer buffer;
@@ -35,24 +43,16 @@ QStringList LoadLog(const QString& path) {
 
 }  // namespace
 
-TEST(RecordFormat, EveryEventKindIsWrittenInItsForm) {
-    const Session session = SampleSession();
-    EXPECT_EQ(XmlOf(session), ReadText(DataPath("format/all_kinds.xml")));
-    EXPECT_EQ(ScriptText(session, false), ReadText(DataPath("format/all_kinds.brf")));
-    EXPECT_EQ(ScriptText(session, true), ReadText(DataPath("format/all_kinds_full.brf")));
-}
-
-TEST(RecordFormat, ReadingGivesBackWhatWasWrittenLineBreaksIncluded) {
-    QFile file(DataPath("format/all_kinds.xml"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    Session read;
-    QString error;
-    ASSERT_TRUE(ReadRecordXml(file, read, error)) << error.toStdString();
+TEST(RecordFormat, EveryEventKindIsReadAndWrittenBackLineBreaksIncluded) {
+    const Session read = Sample();
+    ASSERT_EQ(read.steps.size(), 9);
     EXPECT_EQ(read.steps[3].event.text, "a\nb");
     EXPECT_EQ(read.steps[3].extraInfo, "InitialText=first\nsecond");
     EXPECT_EQ(read.steps[0].location.levels[0].windowTitle, "Sample\nTwo lines");
     EXPECT_EQ(read.steps[0].location.levels[2].windowTitle, "OK\r");
     EXPECT_EQ(XmlOf(read), ReadText(DataPath("format/all_kinds.xml")));
+    EXPECT_EQ(ScriptText(read, false), ReadText(DataPath("format/all_kinds.brf")));
+    EXPECT_EQ(ScriptText(read, true), ReadText(DataPath("format/all_kinds_full.brf")));
 }
 
 TEST(RecordFormat, NotARecordIsRefused) {
@@ -65,26 +65,37 @@ TEST(RecordFormat, NotARecordIsRefused) {
     EXPECT_EQ(error, "not a GUI record");
 }
 
+// The step without its control words, the delay, the time out, and the flags that are set.
+QString Controls(const ScriptLine& l) {
+    const StepControls& c = l.controls;
+    QString flags;
+    for (auto [on, name] : {std::pair{c.ignore, "ignore"},
+                            {c.remove, "delete"},
+                            {c.breakHere, "break"},
+                            {c.watch, "watch"},
+                            {c.watchWindow, "window"},
+                            {c.async, "async"}})
+        if (on) flags += QString(" ") + name;
+    return QString("%1|%2|%3|").arg(l.core).arg(c.delaySeconds).arg(c.timeoutSeconds) + flags;
+}
+
 TEST(ScriptLines, ControlWordsAreSplitOffTheStep) {
-    const ScriptLine a = ParseStepLine("Event: MouseClick [#ok] (1,2) <Delay=1.500> <Async>");
-    EXPECT_EQ(a.core, "Event: MouseClick [#ok] (1,2)");
-    EXPECT_DOUBLE_EQ(a.controls.delaySeconds, 1.5);
-    EXPECT_TRUE(a.controls.async);
-    const ScriptLine b = ParseStepLine("Event: KeyInputs \"<Ignore>\" [#e] <Timeout=3> <Ignore>");
-    EXPECT_EQ(b.core, "Event: KeyInputs \"<Ignore>\" [#e]");
-    EXPECT_DOUBLE_EQ(b.controls.timeoutSeconds, 3);
-    EXPECT_TRUE(b.controls.ignore);
-    const ScriptLine c = ParseStepLine("CheckPoint: x <Delete><Break><Watch><WatchWindow>");
-    EXPECT_EQ(c.core, "CheckPoint: x");
-    EXPECT_TRUE(c.controls.remove && c.controls.breakHere && c.controls.watch &&
-                c.controls.watchWindow);
-    EXPECT_FALSE(c.controls.ignore || c.controls.async);
+    const std::pair<const char*, const char*> cases[] = {
+        {"Event: MouseClick [#ok] (1,2) <Delay=1.500> <Async>",
+         "Event: MouseClick [#ok] (1,2)|1.5|-1| async"},
+        {"Event: KeyInputs \"<Ignore>\" [#e] <Timeout=3> <Ignore>",
+         "Event: KeyInputs \"<Ignore>\" [#e]|-1|3| ignore"},
+        {"CheckPoint: x <Delete><Break><Watch><WatchWindow>",
+         "CheckPoint: x|-1|-1| delete break watch window"},
+    };
+    for (const auto& [line, expected] : cases)
+        EXPECT_EQ(Controls(ParseStepLine(line)), expected) << line;
 }
 
 TEST(SessionPair, AScriptWithoutItsRecordCannotBePlayed) {
     QTemporaryDir dir;
     const QString brf = dir.filePath("lonely.brf");
-    ASSERT_TRUE(SaveScript(brf, SampleSession(), false));
+    ASSERT_TRUE(SaveScript(brf, Sample(), false));
     LoadedSession loaded;
     QString error;
     EXPECT_FALSE(LoadSessionPair(brf, loaded, error));
@@ -98,8 +109,8 @@ TEST(SessionPair, AScriptWithoutItsRecordCannotBePlayed) {
 TEST(SessionPair, AChangedScriptIsPlayedWithAWarning) {
     QTemporaryDir dir;
     const QString base = dir.filePath("pair");
-    ASSERT_TRUE(SaveRecordXml(base + ".xml", SampleSession()));
-    ASSERT_TRUE(SaveScript(base + ".brf", SampleSession(), false));
+    ASSERT_TRUE(SaveRecordXml(base + ".xml", Sample()));
+    ASSERT_TRUE(SaveScript(base + ".brf", Sample(), false));
     LoadedSession loaded;
     QString error;
     ASSERT_TRUE(LoadSessionPair(base + ".brf", loaded, error));

@@ -28,7 +28,7 @@ const CClassFunctionCall* CApplyTarget::GetChainHead() const {
     return chain.Head();
 }
 
-TestWindow::TestWindow(TestWindowVariant variant) {
+TestWindow::TestWindow(bool renamedApply) {
     m_commands.apply = [this] { Apply(); };
     setObjectName("testWindow");
     setWindowTitle("Replay Test");
@@ -37,9 +37,7 @@ TestWindow::TestWindow(TestWindowVariant variant) {
     layout->addWidget(nameEdit);
     auto box = Named(new QGroupBox("Options"), "optionsBox");
     auto boxLayout = new QVBoxLayout(box);
-    const char* optionText =
-        variant == TestWindowVariant::RenamedOption ? "Keep voids" : "Keep vias";
-    boxLayout->addWidget(Named(new QCheckBox(optionText), "keepCheck"));
+    boxLayout->addWidget(Named(new QCheckBox("Keep vias"), "keepCheck"));
     auto combo = Named(new QComboBox, "unitCombo");
     combo->addItems({"mm", "mil"});
     boxLayout->addWidget(combo);
@@ -58,15 +56,11 @@ TestWindow::TestWindow(TestWindowVariant variant) {
     layout->addWidget(tabs);
     result = Named(new QLabel("nothing yet"), "resultLabel");
     layout->addWidget(result);
-    if (variant != TestWindowVariant::NoApplyButton) {
-        const char* name =
-            variant == TestWindowVariant::RenamedApplyButton ? "applyNowButton" : "applyButton";
-        auto apply = Named(new QPushButton("Apply"), name);
-        if (variant == TestWindowVariant::RenamedApplyButton) m_applyId = 2;
-        connect(apply, &QPushButton::clicked, this,
-                [this] { m_commands.OnCmdMsg(m_applyId, 0, nullptr, false); });
-        layout->addWidget(apply);
-    }
+    auto apply = Named(new QPushButton("Apply"), renamedApply ? "applyNowButton" : "applyButton");
+    m_applyId = renamedApply ? 2 : 1;
+    connect(apply, &QPushButton::clicked, this,
+            [this] { m_commands.OnCmdMsg(m_applyId, 0, nullptr, false); });
+    layout->addWidget(apply);
     auto confirm = Named(new QPushButton("Confirm"), "confirmButton");
     connect(confirm, &QPushButton::clicked, this, &TestWindow::Confirm);
     layout->addWidget(confirm);

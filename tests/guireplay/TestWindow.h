@@ -1,7 +1,7 @@
 #pragma once
 // A small dialog to record and play on: a name, an option, a list of nets to tick, a choice,
-// tabs, and buttons that change what the dialog shows, one of them after a modal question. Variants
-// change one control, as a later version of a program would.
+// tabs, and buttons that change what the dialog shows, one of them after a modal question. The
+// renamed variant names its Apply button and handler anew, as a later version of a program would.
 #include <QDialog>
 #include <functional>
 
@@ -10,8 +10,6 @@
 class QLabel;
 class QLineEdit;
 class QListWidget;
-
-enum class TestWindowVariant { Normal, RenamedOption, NoApplyButton, RenamedApplyButton };
 
 // Routes the Apply button as the program's dialogs route their buttons, so that a recording
 // notes which handler a click ran.
@@ -27,7 +25,7 @@ class CApplyTarget : public CCmdTargetBase {
 
 class TestWindow : public QDialog {
   public:
-    explicit TestWindow(TestWindowVariant variant = TestWindowVariant::Normal);
+    explicit TestWindow(bool renamedApply = false);
     QLineEdit* nameEdit = nullptr;
     QLabel* result = nullptr;
     QListWidget* nets = nullptr;

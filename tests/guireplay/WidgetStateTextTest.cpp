@@ -1,4 +1,4 @@
-// The text of a window's state in a check point.
+// The text of a window's state in a check point, against data/guireplay/state/.
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "ReplayTestSupport.h"
 #include "TestWindow.h"
 #include "guireplay/WidgetStateText.h"
 
@@ -16,45 +17,15 @@ TEST(CheckPointText, ListsEachControlsStateInItsForm) {
     window.nets->item(1)->setCheckState(Qt::PartiallyChecked);
     window.findChild<QCheckBox*>("keepCheck")->setChecked(true);
     window.findChild<QWidget*>("unitCombo")->setEnabled(false);
-    EXPECT_EQ(guireplay::WidgetStateText(&window).toStdString(),
-              "QDialog#testWindow: \"Replay Test\", Enabled\n"
-              "QLineEdit#nameEdit: \"board&#x0Aone\", Enabled\n"
-              "--------\n"
-              "QGroupBox#optionsBox: \"Options\", Enabled\n"
-              "QCheckBox#keepCheck: \"Keep vias\", Enabled, Checked\n"
-              "QComboBox#unitCombo: \"mm\", Disabled\n"
-              "    items:\n"
-              "    0: \"mm\"\n"
-              "    1: \"mil\"\n"
-              "QListWidget#netList: items=3 columns=1, Enabled\n"
-              "    items:\n"
-              "    0: \"GND\" [Checked]\n"
-              "    1: \"VCC\" [PartialChecked]\n"
-              "    2: \"CLK\" [Unchecked] [Disabled]\n"
-              "QTabWidget#pages: \"General\", Enabled\n"
-              "    Tabs:\n"
-              "    0: \"General\"\n"
-              "    1: \"Colours\" [Disabled]\n"
-              "--------\n"
-              "QLabel#firstPage: \"first page\"\n"
-              "--------\n"
-              "QLabel#secondPage: \"second page\"\n"
-              "QLabel#resultLabel: \"nothing yet\"\n"
-              "QPushButton#applyButton: \"Apply\", Enabled\n"
-              "QPushButton#confirmButton: \"Confirm\", Enabled\n");
+    EXPECT_EQ(guireplay::WidgetStateText(&window), ReadText(DataPath("state/all_controls.txt")));
 }
 
 TEST(CheckPointText, HiddenAndCustomControlsFollowTheirProperties) {
     TestWindow window;
-    window.findChild<QWidget*>("optionsBox")->setProperty("GUIREPLAYHIDDEN", true);
-    window.findChild<QWidget*>("netList")->setProperty("GUIREPLAYHIDDEN", true);
-    window.findChild<QWidget*>("pages")->setProperty("GUIREPLAYHIDDEN", true);
+    for (const char* name : {"optionsBox", "netList", "pages"})
+        window.findChild<QWidget*>(name)->setProperty("GUIREPLAYHIDDEN", true);
     window.result->setProperty("GUIRecChkCustomContent", QString("own words"));
     window.nameEdit->setEnabled(false);
-    EXPECT_EQ(guireplay::WidgetStateText(&window).toStdString(),
-              "QDialog#testWindow: \"Replay Test\", Enabled\n"
-              "QLineEdit#nameEdit: \"\", Disabled\n"
-              "QLabel#resultLabel: \"own words\", Enabled\n"
-              "QPushButton#applyButton: \"Apply\", Enabled\n"
-              "QPushButton#confirmButton: \"Confirm\", Enabled\n");
+    EXPECT_EQ(guireplay::WidgetStateText(&window),
+              ReadText(DataPath("state/hidden_and_custom.txt")));
 }

@@ -83,7 +83,7 @@ struct CommandCase {
     const char* lastCommand;
 };
 
-TEST(CmdRouting, CommandDispatchByIdentifierAndCode) {
+TEST(CmdRouting, CommandAndUpdateDispatchByIdentifierAndCode) {
     const CommandCase cases[] = {
         {10, kCodeClicked, false, true, "OnFoo;", "OnFoo"},
         {21, kCodeClicked, false, true, "OnOwn;", "OnOwn"},  // the class's own entry first
@@ -106,9 +106,7 @@ TEST(CmdRouting, CommandDispatchByIdentifierAndCode) {
         EXPECT_EQ(target.calls, c.calls);
         EXPECT_EQ(LastCommandName(), c.lastCommand);
     }
-}
-
-TEST(CmdRouting, UpdateRequestReachesItsHandlerWithTheUpdateObject) {
+    // An update request reaches its handler with the update object.
     CDerived target;
     CCmdUI ui(10);
     EXPECT_TRUE(target.OnCmdMsg(10, kCodeUpdateCommandUI, &ui, false));

@@ -66,23 +66,17 @@ struct DialogBase : testing::Test {
     CTestDlg dlg;
 };
 
-TEST_F(DialogBase, SecondCreateChangesNothing) {
+TEST_F(DialogBase, TheFormIsMadeOnceAndWrappedByWidgetClass) {
     ASSERT_TRUE(dlg.Create(kTestFormId));
     QWidget* form = dlg.GetHandle();
-    EXPECT_TRUE(dlg.IsCreated());
     EXPECT_TRUE(dlg.Create(kTestFormId, nullptr, true, "QWidget"));
     EXPECT_EQ(dlg.GetHandle(), form);
     EXPECT_TRUE(form->inherits("QDialog"));
-}
-
-TEST_F(DialogBase, WrappersByWidgetClassAndUnknownIdentifiers) {
-    ASSERT_TRUE(dlg.Create(kTestFormId));
     size_t before = dlg.Controls().size();
     EXPECT_EQ(dlg.GetDlgItem(4711), nullptr);
     EXPECT_EQ(dlg.Controls().size(), before);
     EXPECT_NE(dynamic_cast<CUiEdit*>(dlg.GetDlgItem(kEditText)), nullptr);
-    EXPECT_NE(dynamic_cast<CUiButton*>(dlg.GetDlgItem(kCheck)), nullptr);
-    EXPECT_NE(dynamic_cast<CUiButton*>(dlg.GetDlgItem(kIdOk)), nullptr);
+    for (int id : {kCheck, kIdOk}) EXPECT_NE(dynamic_cast<CUiButton*>(dlg.GetDlgItem(id)), nullptr);
     EXPECT_NE(dynamic_cast<CUiStatic*>(dlg.GetDlgItem(kLabel)), nullptr);
     // The combo box is bound to the dialog's member by the exchange.
     EXPECT_EQ(dlg.GetDlgItem(kCombo), &dlg.m_combo);
@@ -91,24 +85,20 @@ TEST_F(DialogBase, WrappersByWidgetClassAndUnknownIdentifiers) {
 
 TEST_F(DialogBase, NumbersShowWithPercentGAndUnreadableTextSavesZero) {
     ASSERT_TRUE(dlg.Create(kTestFormId));
-    const struct {
-        double value;
-        const char* shown;
-    } loads[] = {{0.1, "0.1"}, {1000000.0, "1e+06"}, {-2.5, "-2.5"}, {0.0, "0"}};
-    for (const auto& l : loads) {
-        dlg.m_dbNumber = l.value;
+    const std::pair<double, const char*> loads[] = {
+        {0.1, "0.1"}, {1000000.0, "1e+06"}, {-2.5, "-2.5"}, {0.0, "0"}};
+    for (const auto& [value, shown] : loads) {
+        dlg.m_dbNumber = value;
         dlg.UpdateData(false);
-        EXPECT_EQ(dlg.GetDlgItemText(kEditNumber), l.shown);
+        EXPECT_EQ(dlg.GetDlgItemText(kEditNumber), shown);
     }
-    const struct {
-        const char* text;
-        double saved;
-    } saves[] = {{"abc", 0.0}, {"2.5", 2.5}, {"1e+06", 1000000.0}, {"", 0.0}};
-    for (const auto& s : saves) {
+    const std::pair<const char*, double> saves[] = {
+        {"abc", 0.0}, {"2.5", 2.5}, {"1e+06", 1000000.0}, {"", 0.0}};
+    for (const auto& [text, saved] : saves) {
         dlg.m_dbNumber = 7.0;
-        dlg.SetDlgItemText(kEditNumber, s.text);
+        dlg.SetDlgItemText(kEditNumber, text);
         dlg.UpdateData(true);
-        EXPECT_EQ(dlg.m_dbNumber, s.saved) << s.text;
+        EXPECT_EQ(dlg.m_dbNumber, saved) << text;
     }
 }
 
@@ -129,24 +119,19 @@ TEST_F(DialogBase, LoadRaisesNoChangeNotificationButTheUserDoes) {
     EXPECT_EQ(dlg.m_nChecks, 1);
 }
 
-TEST_F(DialogBase, ComboBoxListOpeningAndClosingReachTheChain) {
+TEST_F(DialogBase, ComboBoxListAndBridgeEventsReachTheChain) {
     ASSERT_TRUE(dlg.Create(kTestFormId));
     EXPECT_TRUE(dlg.HasIdleHandler());
     dlg.m_combo.AddString("red");
     dlg.m_combo.ShowDropDown(true);
     dlg.m_combo.ShowDropDown(false);
-    EXPECT_EQ(dlg.m_strList, "open;close;");
-}
-
-TEST_F(DialogBase, BridgeEventsReachTheChain) {
-    ASSERT_TRUE(dlg.Create(kTestFormId));
     QObject* bridge = CQtEventBridge::Of(dlg.GetHandle());
     CqtMfcUpdateCmdUIEvent update(kLabel);
     CqtMfcCustomEvent idle(kMsgKickIdle, 0, 0);
     QApplication::sendEvent(bridge, &update);
     QApplication::sendEvent(bridge, &idle);
     EXPECT_FALSE(dlg.GetDlgItem(kLabel)->IsWindowEnabled());
-    EXPECT_EQ(dlg.m_strList, "idle;");
+    EXPECT_EQ(dlg.m_strList, "open;close;idle;");
 }
 
 // Runs the dialog modally while action plays the user.
@@ -156,18 +141,14 @@ int RunWhile(CTestDlg& dlg, Action action) {
     return dlg.DoModal();
 }
 
-void PressEscape(QWidget* on) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(on, &press);
-}
-
 TEST_F(DialogBase, EscapeEndsTheDialogThroughItsCancelControl) {
     for (bool cancelEnabled : {true, false}) {
         CTestDlg modal;
         ResetLastCommandName();
         int result = RunWhile(modal, [&] {
             modal.GetDlgItem(kIdCancel)->EnableWindow(cancelEnabled);
-            PressEscape(modal.GetDlgItem(kEditText)->GetHandle());
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QApplication::sendEvent(modal.GetDlgItem(kEditText)->GetHandle(), &escape);
         });
         EXPECT_EQ(result, kIdCancel);  // a top-level form ends even with Cancel disabled
         EXPECT_EQ(LastCommandName(), "OnCancel");

@@ -19,16 +19,11 @@ TEST(MessageBoxes, DialogRunShowsBoxesAndReturnsTheirAnswers) {
     EXPECT_EQ(ReportMessage("Careful", kBoxWarning), 1);
     EXPECT_EQ(ReportMessage("Again?", kBoxYesNo), kAnswerYes);
     EXPECT_EQ(ReportMessage("Done"), 1);
-    ASSERT_EQ(answers.Shown().size(), 4u);
-    const struct {
-        const char* text;
-        int type;
-    } shown[] = {{"Overwrite?", 4}, {"Careful", 48}, {"Again?", 4}, {"Done", 0}};
-    for (size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(answers.Shown()[i].title, "Ndd2Qfx");
-        EXPECT_EQ(answers.Shown()[i].text, shown[i].text);
-        EXPECT_EQ(answers.Shown()[i].type, shown[i].type);
-    }
+    std::vector<std::string> shown;
+    for (const ShownMessageBox& box : answers.Shown())
+        shown.push_back(box.title + "|" + box.text + "|" + std::to_string(box.type));
+    EXPECT_EQ(shown, (std::vector<std::string>{"Ndd2Qfx|Overwrite?|4", "Ndd2Qfx|Careful|48",
+                                               "Ndd2Qfx|Again?|4", "Ndd2Qfx|Done|0"}));
 }
 
 TEST(MessageBoxes, BatchRunWritesTheReportAndShowsNoBox) {

@@ -1,4 +1,4 @@
-// The UI tests share one application on the offscreen platform.
+// The UI framework's and the record-and-replay tests: one application on the offscreen platform.
 #include <gtest/gtest.h>
 
 #include <QApplication>

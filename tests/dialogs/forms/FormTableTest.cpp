@@ -3,14 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTextStream>
 #include <QWidget>
 
+#include "TestSupport.h"
 #include "dialogs/forms/FormScale.h"
 #include "dialogs/forms/Ndd2QfxResourceMgr.h"
 #include "ui/UiListCtrl.h"
@@ -23,16 +22,12 @@ struct FormCase {
 };
 
 QList<FormCase> ReadCases() {
-    QFile file(QStringLiteral(NDD2QFX_SOURCE_DIR "/tests/data/forms/forms.txt"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
     QList<FormCase> cases;
-    for (const QString& block : QString::fromUtf8(file.readAll()).split("\n\n")) {
+    const QString text = QString::fromStdString(testing_support::DataFile("forms/forms.txt"));
+    for (const QString& block : text.split("\n\n")) {
         if (block.trimmed().isEmpty() || block.startsWith('#')) continue;
-        FormCase c;
-        c.expected = block.trimmed() + "\n";
-        const QStringList lines = c.expected.split('\n', Qt::SkipEmptyParts);
-        c.number = lines[0].section(' ', 1, 1).toInt();
-        cases.append(c);
+        const QString expected = block.trimmed() + "\n";
+        cases.append({expected.section(' ', 1, 1).toInt(), expected});
     }
     return cases;
 }

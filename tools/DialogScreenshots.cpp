@@ -1,6 +1,7 @@
-// Takes the pictures of the main window for the README: idle with a board named, in the middle
-// of a translation, and the About box. Run under Xvfb:
-//   xvfb-run -a build/tests/dialog_screenshots docs/images
+// Takes the pictures of the dialogs for the README: the main window idle with a board named and
+// in the middle of a translation, the Settings pages, the pin mapping dialog, the colour picker
+// and the About box. Run under Xvfb (or QT_QPA_PLATFORM=offscreen):
+//   xvfb-run -a build/tools/dialog_screenshots docs/images
 #include <QApplication>
 #include <QDialog>
 #include <QTabWidget>
@@ -13,6 +14,7 @@
 #include "app/SettingsPage.h"
 #include "base/Platform.h"
 #include "dialogs/AboutDialog.h"
+#include "dialogs/ColorPicker.h"
 #include "dialogs/Ndd2QfxDlg.h"
 #include "dialogs/Ndd2QfxSetting.h"
 #include "dialogs/PowerPinSelector.h"
@@ -129,6 +131,10 @@ int main(int argc, char** argv) {
         ok &= taken;
     }
     ok &= SaveSettingsPages(folder, work);
+    CColorPicker picker(5);
+    picker.Create(IDD_COLOR_PICKER);
+    picker.GetHandle()->show();
+    ok &= Save(picker.GetHandle(), folder + "/color-picker.png");
     auto about = MakeAboutDialog(nullptr);
     about->show();
     ok &= Save(about.get(), folder + "/about-dialog.png");
