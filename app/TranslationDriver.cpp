@@ -343,6 +343,9 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "ParseTrace, ParseArcTrace");
     ParseTrace(inputFile, 0);
     ParseArcTrace(inputFile, 0);
+    // No pass below reads the design again, and the text is as large as the board: it goes
+    // now rather than at the end (a later reader would load it anew).
+    ForgetNddInput();
 
     RunShapeCleanupRound();
     SpreadSurfacePads();

@@ -1,5 +1,7 @@
 #include "base/TextFile.h"
 
+#include "base/HugePages.h"
+
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -53,6 +55,7 @@ SharedText LoadTextFile(const std::string& path, LoadStatus* status) {
     std::string raw;
     // One allocation of the file's size: growing by doubling would hold up to twice the input.
     raw.reserve(static_cast<size_t>(st.st_size) + 1);
+    AdviseHugePages(raw.data(), raw.capacity());
     char buf[65536];
     size_t n;
     while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) raw.append(buf, n);

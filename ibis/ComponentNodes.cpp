@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 #include "ibis/CircuitForm.h"
@@ -152,16 +153,49 @@ std::unordered_set<std::string> ComponentNodes::PinPlaces() const {
     return places;
 }
 
+namespace {
+
+// Two x values whose six-decimal texts are equal lie within 1e-6 of each other, so their cells
+// of 1e-6 differ by at most one (two, with the rounding of the product). Beyond kCellRange
+// and for no number at all there is no cell: such a node is always compared by its text.
+constexpr double kCellRange = 1e9;
+
+bool CellOf(double x, int64_t& cell) {
+    if (!(std::fabs(x) < kCellRange)) return false;
+    cell = static_cast<int64_t>(std::floor(x * 1e6));
+    return true;
+}
+
+// The cells near the pins' x positions; a node outside them cannot share a pin's text.
+struct PinCells {
+    explicit PinCells(const std::unordered_set<std::string>& places) {
+        for (const std::string& place : places) {
+            int64_t cell;
+            if (CellOf(std::strtod(place.c_str(), nullptr), cell))
+                for (int64_t d = -2; d <= 2; ++d) cells.insert(cell + d);
+        }
+    }
+    bool MayHold(double x) const {
+        int64_t cell;
+        return !CellOf(x, cell) || cells.count(cell) != 0;
+    }
+    std::unordered_set<int64_t> cells;
+};
+
+}  // namespace
+
 // Pin position text to (node number, place in the array) of the node there; a later node with
-// the same text wins. Only the pins' positions are kept: the board's other nodes never match.
+// the same text wins. Only the pins' positions are kept: the board's other nodes never match,
+// and most of them are passed over by their x before any text is made.
 std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> ComponentNodes::PinPlaceNodes()
     const {
     const std::unordered_set<std::string> places = PinPlaces();
+    const PinCells near(places);
     std::unordered_map<std::string, std::pair<uint32_t, uint32_t>> byKey;
     const std::vector<NodeRec>& nodes = g_model.g_aNodes;
     std::string key;
     for (size_t i = 0; i < nodes.size(); ++i) {
-        if (!NodeNetTaken(nodes[i].net)) continue;
+        if (!NodeNetTaken(nodes[i].net) || !near.MayHold(nodes[i].x)) continue;
         key = NodeKey(nodes[i].x, nodes[i].y, nodes[i].layer);
         if (places.count(key)) byKey[key] = {nodes[i].id, static_cast<uint32_t>(i)};
     }

@@ -1,5 +1,7 @@
 #include "model/NodePool.h"
 
+#include "base/HugePages.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -45,6 +47,7 @@ struct Pool {
         blockObjects = blocks.empty() ? kFirstBlock : std::min(kLargestBlock, 2 * blockObjects);
         blocks.emplace_back(new unsigned char[blockObjects * size]);
         next = blocks.back().get();
+        base::AdviseHugePages(next, blockObjects * size);
         end = next + blockObjects * size;
     }
 

@@ -3,6 +3,7 @@
 #include <new>
 #include <vector>
 
+#include "base/HugePages.h"
 #include "model/LayoutModel.h"
 
 namespace {
@@ -116,7 +117,7 @@ void RebuildNodeArray() {
     // The old copy goes first, so that two copies are never held at once.
     std::vector<NodeRec>().swap(g_model.g_aNodes);
     std::vector<NodeRec> nodes;
-    nodes.reserve((set.size() / kNodeArrayBlock + 1) * kNodeArrayBlock);
+    base::ReserveLarge(nodes, (set.size() / kNodeArrayBlock + 1) * kNodeArrayBlock);
     nodes.assign(set.begin(), set.end());
     g_model.g_aNodes.swap(nodes);
 }

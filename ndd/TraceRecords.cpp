@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <new>
 
+#include "base/HugePages.h"
 #include "model/LayoutModel.h"
 #include "model/NodeSet.h"
 #include "model/ReportMessage.h"
@@ -31,7 +32,7 @@ int GrowTraceArrays() {
         return 1;
     size_t capacity = NextTraceCapacity(traces.size());
     try {
-        traces.reserve(capacity);
+        base::ReserveLarge(traces, capacity);
         g_model.g_aTraceNets.reserve(capacity);
         g_model.g_aTraceFlags.reserve(capacity);
     } catch (const std::bad_alloc&) {

@@ -5,6 +5,7 @@
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
 #include "qfx/Naming.h"
+#include "qfx/NumberText.h"
 
 namespace {
 
@@ -22,23 +23,42 @@ const char* ViaColor(int32_t net) {
     return name ? name : "red";
 }
 
+// "Node", affix, number, pin label and net suffix, as the node's own line names it.
+void AppendViaNode(std::string& line, const char* affix, uint32_t id, int32_t net) {
+    line += "Node";
+    line += affix;
+    AppendInt(line, static_cast<int>(id));
+    line += PinLabelSuffix(LabelOfNode(id)).c_str();
+    line += NetSuffix(net).c_str();
+}
+
 }  // namespace
 
+// "Via%s%d%s UpperNode = Node%s%d%s%s LowerNode = Node%s%d%s%s Color = %s", then
+// " PadStack = %s%s AbsoluteRotation = %.6f\n" or "\n"; built in place, as a board has many.
 void WriteVias(FILE* out) {
     const char* affix = Affix().c_str();
+    std::string line;
     for (const ViaOutRec& v : g_model.g_aViaOut) {
         if (!g_options.g_nIncludeNoNetEtches && v.net == kNoNet) continue;
-        std::fprintf(out, "Via%s%d%s UpperNode = Node%s%d%s%s LowerNode = Node%s%d%s%s Color = %s",
-                     affix, static_cast<int>(v.number), NetSuffix(v.net).c_str(), affix,
-                     static_cast<int>(v.upperNode),
-                     PinLabelSuffix(LabelOfNode(v.upperNode)).c_str(),
-                     NetSuffix(v.upperNet).c_str(), affix, static_cast<int>(v.lowerNode),
-                     PinLabelSuffix(LabelOfNode(v.lowerNode)).c_str(),
-                     NetSuffix(v.lowerNet).c_str(), ViaColor(v.net));
-        if (v.padStack)
-            std::fprintf(out, " PadStack = %s%s AbsoluteRotation = %.6f\n", affix,
-                         v.padStack->name.c_str(), v.rotation);
-        else
-            std::fprintf(out, "\n");
+        line.assign("Via");
+        line += affix;
+        AppendInt(line, static_cast<int>(v.number));
+        line += NetSuffix(v.net).c_str();
+        line += " UpperNode = ";
+        AppendViaNode(line, affix, v.upperNode, v.upperNet);
+        line += " LowerNode = ";
+        AppendViaNode(line, affix, v.lowerNode, v.lowerNet);
+        line += " Color = ";
+        line += ViaColor(v.net);
+        if (v.padStack) {
+            line += " PadStack = ";
+            line += affix;
+            line += v.padStack->name.c_str();
+            line += " AbsoluteRotation = ";
+            AppendFixed(line, v.rotation, 6);
+        }
+        line += '\n';
+        PutText(out, line);
     }
 }

@@ -12,8 +12,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <sstream>
 #include <thread>
 
 extern char** environ;
@@ -21,23 +19,6 @@ extern char** environ;
 namespace base_test {
 
 namespace {
-
-void RemoveTree(const std::string& path) {
-    struct stat st {};
-    if (lstat(path.c_str(), &st) != 0) return;
-    if (S_ISDIR(st.st_mode)) {
-        if (DIR* d = opendir(path.c_str())) {
-            while (dirent* e = readdir(d)) {
-                std::string name = e->d_name;
-                if (name != "." && name != "..") RemoveTree(path + "/" + name);
-            }
-            closedir(d);
-        }
-        rmdir(path.c_str());
-    } else {
-        unlink(path.c_str());
-    }
-}
 
 std::vector<std::string> ChildEnvironment(const EnvChanges& changes) {
     std::vector<std::string> env;
@@ -59,29 +40,6 @@ std::vector<char*> Pointers(std::vector<std::string>& strings) {
 }
 
 }  // namespace
-
-ScratchDir::ScratchDir() {
-    const char* tmp = std::getenv("TMPDIR");
-    std::string pattern = std::string(tmp && *tmp ? tmp : "/tmp") + "/base_test_XXXXXX";
-    std::vector<char> buf(pattern.begin(), pattern.end());
-    buf.push_back('\0');
-    m_path = mkdtemp(buf.data()) ? buf.data() : "";
-}
-
-ScratchDir::~ScratchDir() {
-    if (!m_path.empty()) RemoveTree(m_path);
-}
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-void WriteFile(const std::string& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-}
 
 bool FileExists(const std::string& path) {
     struct stat st {};
@@ -194,13 +152,6 @@ bool WaitForExit(pid_t pid, int& status, int timeoutMs) {
 void CloseAll(Child& child) {
     for (int* fd : {&child.in, &child.out, &child.err})
         if (*fd >= 0) close(*fd), *fd = -1;
-}
-
-std::vector<std::string> SplitLines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) lines.push_back(line);
-    return lines;
 }
 
 }  // namespace base_test

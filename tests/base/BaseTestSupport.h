@@ -1,7 +1,7 @@
 #pragma once
-// What the base library's tests share: scratch folders, environment changes undone at the end
-// of a test, and child processes with pipes on their standard streams, all with time limits
-// so that no test can hang.
+// What the base library's tests share besides the common helpers: environment changes undone
+// at the end of a test, and child processes with pipes on their standard streams, all with
+// time limits so that no test can hang.
 #include <sys/types.h>
 
 #include <map>
@@ -9,23 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "../TestSupport.h"
+
 namespace base_test {
 
-class ScratchDir {
-  public:
-    ScratchDir();
-    ~ScratchDir();
-    ScratchDir(const ScratchDir&) = delete;
-    ScratchDir& operator=(const ScratchDir&) = delete;
-    const std::string& Path() const { return m_path; }
-    std::string File(const std::string& name) const { return m_path + "/" + name; }
+using testing_support::ReadFile;
+using testing_support::ScratchDir;
+using testing_support::SplitLines;
+using testing_support::WriteFile;
 
-  private:
-    std::string m_path;
-};
-
-std::string ReadFile(const std::string& path);
-void WriteFile(const std::string& path, const std::string& text);
 bool FileExists(const std::string& path);
 // Names in a folder that begin with prefix, sorted.
 std::vector<std::string> FilesStartingWith(const std::string& folder, const std::string& prefix);
@@ -69,7 +61,5 @@ std::string CaseMessage(const std::string& bytes);
 // Waits for the child's end; false when it has not ended within the limit.
 bool WaitForExit(pid_t pid, int& status, int timeoutMs);
 void CloseAll(Child& child);
-
-std::vector<std::string> SplitLines(const std::string& text);
 
 }  // namespace base_test

@@ -74,28 +74,35 @@ struct CrashCase {
     int signal;
     const char* function;
     const char* signalLine;
+    bool bareRunLog;  // a run log named without a folder: the crash log goes to the working folder
 };
 
-TEST(CrashHandler, CrashLeavesStackBesideRunLogAndEndsBySignal) {
+TEST(CrashHandler, CrashLeavesStackBesideRunLogOrInTheWorkingFolderAndEndsBySignal) {
     const CrashCase cases[] = {
-        {"segv", SIGSEGV, "crash_helper::CrashByNullWrite()", "Signal 11 (Segmentation fault)"},
-        {"abort", SIGABRT, "crash_helper::CrashByAbort()", "Signal 6 (Aborted)"},
+        {"segv", SIGSEGV, "crash_helper::CrashByNullWrite()", "Signal 11 (Segmentation fault)",
+         false},
+        {"abort", SIGABRT, "crash_helper::CrashByAbort()", "Signal 6 (Aborted)", false},
+        {"segv", SIGSEGV, "crash_helper::CrashByNullWrite()", "Signal 11 (Segmentation fault)",
+         true},
     };
     // The helper carries debug information: its frames name file and line.
     const std::string helperFrame = "BaseTestHelper.cpp:";
     for (const CrashCase& c : cases) {
         SCOPED_TRACE(c.mode);
         ScratchDir work, logs;
-        CrashRun run = RunCrash(c.mode, work.Path(), logs.File("r.log"));
+        const ScratchDir& where = c.bareRunLog ? work : logs;
+        CrashRun run = RunCrash(c.mode, work.Path(), c.bareRunLog ? "r.log" : logs.File("r.log"));
         ASSERT_TRUE(WIFSIGNALED(run.status));
         EXPECT_EQ(WTERMSIG(run.status), c.signal);
-        std::vector<std::string> found = base_test::FilesStartingWith(logs.Path(), "crash_");
+        std::vector<std::string> found = base_test::FilesStartingWith(where.Path(), "crash_");
         ASSERT_EQ(found.size(), 1u);
         EXPECT_TRUE(IsCrashLogNameOf(found[0], run.pid, run.from, run.to)) << found[0];
-        EXPECT_TRUE(base_test::FilesStartingWith(work.Path(), "crash_").empty());
+        if (!c.bareRunLog) {
+            EXPECT_TRUE(base_test::FilesStartingWith(work.Path(), "crash_").empty());
+        }
 
         std::vector<std::string> lines =
-            base_test::SplitLines(base_test::ReadFile(logs.File(found[0])));
+            base_test::SplitLines(base_test::ReadFile(where.File(found[0])));
         ASSERT_GE(lines.size(), 3u);
         // Time-stamped first line, every frame under it indented by 23 blanks.
         EXPECT_EQ(lines[0].substr(23), c.signalLine);
@@ -106,17 +113,8 @@ TEST(CrashHandler, CrashLeavesStackBesideRunLogAndEndsBySignal) {
                               lines[i].find(helperFrame) != std::string::npos &&
                               lines[i].find(" in base_test_helper") != std::string::npos);
         }
-        EXPECT_TRUE(named) << base_test::ReadFile(logs.File(found[0]));
+        EXPECT_TRUE(named) << base_test::ReadFile(where.File(found[0]));
     }
-}
-
-TEST(CrashHandler, RunLogWithoutFolderPutsCrashLogInWorkingFolder) {
-    ScratchDir work;
-    CrashRun run = RunCrash("segv", work.Path(), "r.log");
-    EXPECT_TRUE(WIFSIGNALED(run.status) && WTERMSIG(run.status) == SIGSEGV);
-    std::vector<std::string> found = base_test::FilesStartingWith(work.Path(), "crash_");
-    ASSERT_EQ(found.size(), 1u);
-    EXPECT_TRUE(IsCrashLogNameOf(found[0], run.pid, run.from, run.to)) << found[0];
 }
 
 TEST(CrashHandler, SecondFaultWhileHandlingEndsTheProcess) {

@@ -19,24 +19,21 @@ using Entry = std::function<int(const uint8_t*, size_t, const std::string&)>;
 
 const char kBoard[] = NDD2QFX_SOURCE_DIR "/examples/board.ndd";
 
+// The harnesses that translate the example board with a side file take the board too.
+template <class F>
+Entry WithBoard(F harness) {
+    return [harness](const uint8_t* d, size_t n, const std::string& f) {
+        return harness(d, n, f, kBoard);
+    };
+}
+
 Entry EntryOf(const std::string& harness) {
     if (harness == "translate") return fuzz::TranslateNdd;
-    if (harness == "log")
-        return [](const uint8_t* d, size_t n, const std::string& f) {
-            return fuzz::TranslateWithLog(d, n, f, kBoard);
-        };
-    if (harness == "ibis")
-        return [](const uint8_t* d, size_t n, const std::string& f) {
-            return fuzz::TranslateWithIbis(d, n, f, kBoard);
-        };
     if (harness == "pinmap") return fuzz::SavePinMapping;
-    if (harness == "traces")
-        return [](const uint8_t* d, size_t n, const std::string& f) {
-            return fuzz::TranslateWithTraces(d, n, f, kBoard);
-        };
-    return [](const uint8_t* d, size_t n, const std::string& f) {
-        return fuzz::TranslateWithHkp(d, n, f, kBoard);
-    };
+    if (harness == "log") return WithBoard(fuzz::TranslateWithLog);
+    if (harness == "ibis") return WithBoard(fuzz::TranslateWithIbis);
+    if (harness == "traces") return WithBoard(fuzz::TranslateWithTraces);
+    return WithBoard(fuzz::TranslateWithHkp);
 }
 
 std::vector<fs::path> FilesIn(const fs::path& folder) {

@@ -1,3 +1,4 @@
+// Point-in-shape and area cases are board scripts under tests/data/geometry/Primitives.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -6,11 +7,8 @@
 #include "TestSupport.h"
 #include "geometry/EdgesOverlap.h"
 #include "geometry/EquivalentRadius.h"
-#include "geometry/PointInShape.h"
 #include "geometry/RasterizeEdge.h"
 #include "geometry/SegmentRectangle.h"
-#include "geometry/ShapeArea.h"
-#include "geometry/ShapeBoxes.h"
 
 using namespace fixtures;
 
@@ -23,72 +21,6 @@ class Primitives : public ::testing::Test {
         fixtures::MakeSignalLayers({"TOP"});
     }
 };
-
-const std::vector<ShapePoint> kSquare{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}};
-
-TEST_F(Primitives, PointOnEdgeIsInsideForPointInShapeAndOnOutlineForStrict) {
-    int32_t i = AddPolygon(0, kPolarityCopper, 0, kSquare);
-    BuildShapeBoxes();
-    EXPECT_EQ(1, PointInShape(i, 10, 5, false));   // right edge
-    EXPECT_EQ(1, PointInShape(i, 0, 5, true));     // left edge, on the box
-    EXPECT_EQ(1, PointInShape(i, 5, 0, false));    // bottom edge
-    EXPECT_EQ(1, PointInShape(i, 10, 10, false));  // corner
-    EXPECT_EQ(1, PointInShape(i, 5, 5, false));
-    EXPECT_EQ(0, PointInShape(i, 11, 5, false));
-    EXPECT_EQ(0, PointInShape(i, -1, 5, false));
-
-    // The strict test runs on outlines as the clean-up round leaves them: without the
-    // repeated closing point.
-    const ShapePoint* p = g_model.g_aShapePoints.data();
-    EXPECT_EQ(0, PointInPolygonStrict(10, 5, i, p, 4));
-    EXPECT_EQ(0, PointInPolygonStrict(0, 5, i, p, 4));
-    EXPECT_EQ(0, PointInPolygonStrict(5, 0, i, p, 4));
-    EXPECT_EQ(0, PointInPolygonStrict(5, 10 + 1e-14, i, p, 4));
-    EXPECT_EQ(0, PointInPolygonStrict(10, 10, i, p, 4));
-    EXPECT_EQ(-1, PointInPolygonStrict(5, 5, i, p, 4));
-    EXPECT_EQ(-1, PointInPolygonStrict(9.9, 0.1, i, p, 4));
-    EXPECT_EQ(1, PointInPolygonStrict(10.5, 5, i, p, 4));
-    EXPECT_EQ(1, PointInPolygonStrict(5, 10 + 1e-13, i, p, 4));
-    EXPECT_EQ(1, PointInPolygonStrict(-1, 0, i, p, 4));
-    EXPECT_EQ(1, PointInPolygonStrict(5, 5, i, p, 0));
-}
-
-TEST_F(Primitives, PointLevelWithHorizontalEdgeAnswersAsJustAbove) {
-    // A notch: the level edge from (4,6) to (8,6) has a point left and right of it.
-    int32_t i =
-        AddPolygon(0, kPolarityCopper, 0,
-                   {{0, 0}, {10, 0}, {10, 10}, {8, 10}, {8, 6}, {4, 6}, {4, 10}, {0, 10}, {0, 0}});
-    for (double x : {2.0, 9.0, 11.0, -1.0, 3.0})
-        EXPECT_EQ(PointInShape(i, x, 6.0 + 1e-9, false), PointInShape(i, x, 6.0, false)) << x;
-    EXPECT_EQ(1, PointInShape(i, 2, 6, false));
-    EXPECT_EQ(0, PointInShape(i, 11, 6, false));
-    EXPECT_EQ(1, PointInShape(i, 6, 6, false));  // on the level edge itself
-    EXPECT_EQ(0, PointInShape(i, 6, 7, false));  // in the notch
-}
-
-TEST_F(Primitives, TwoPointPolygonIsNeverInsideAndCircleCountsItsRim) {
-    int32_t line = AddPolygon(0, kPolarityCopper, 0, {{0, 0}, {10, 0}});
-    EXPECT_EQ(0, PointInShape(line, 0, 0, false));
-    EXPECT_EQ(0, PointInShape(line, 5, 0, false));
-    int32_t c = AddCircle(0, kPolarityCopper, 0, 1, 1, 2);
-    BuildShapeBoxes();
-    EXPECT_EQ(1, PointInShape(c, 3, 1, true));
-    EXPECT_EQ(0, PointInShape(c, 3, 3, false));
-    EXPECT_EQ(0, PointInShape(c, 3.5, 1, true));
-}
-
-TEST_F(Primitives, AreaIgnoresTheClosingPoint) {
-    int32_t closed = AddPolygon(0, 2, 0, {{0, 0}, {0, 2}, {3, 2}, {3, 0}, {0, 0}});
-    int32_t open = AddPolygon(0, 2, 0, {{0, 0}, {0, 2}, {3, 2}, {3, 0}});
-    int32_t two = AddPolygon(0, 2, 0, {{0, 0}, {3, 2}});
-    int32_t none = AddPolygon(0, 2, 0, {});
-    int32_t circle = AddCircle(0, kPolarityCopper, 0, 5, 5, 2);
-    EXPECT_EQ(6.0, ShapeArea(closed));
-    EXPECT_EQ(6.0, ShapeArea(open));
-    EXPECT_EQ(0.0, ShapeArea(two));
-    EXPECT_EQ(0.0, ShapeArea(none));
-    EXPECT_EQ(3.141592653589793 * 2 * 2, ShapeArea(circle));
-}
 
 TEST_F(Primitives, SegmentRectangleAlongTheAxes) {
     AddSegmentRectangle(5, 8, 5, 2, 2, 0, 7, true);

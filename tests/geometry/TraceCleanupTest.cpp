@@ -1,8 +1,9 @@
+// The clean-up passes' cases are board scripts under tests/data/geometry/TraceCleanup; here
+// the gaps' exact points and the tiny-trace pass against a plain walk over the whole table.
 #include "geometry/TraceCleanup.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -10,23 +11,16 @@
 
 #include "Fixtures.h"
 #include "TestSupport.h"
-#include "geometry/MakeNode.h"
 #include "geometry/ShapeTable.h"
 #include "geometry/SortShapes.h"
 #include "model/LayoutModel.h"
 #include "model/NodeSet.h"
 #include "model/TranslationOptions.h"
 #include "ndd/TraceReader.h"
-#include "qfx/NodeWriter.h"
-#include "qfx/TraceWriter.h"
 
 namespace {
 
-using testing_support::CaptureOutput;
-using testing_support::DataFile;
-
 constexpr int32_t kClk = 0;
-constexpr int32_t kGnd = 1;
 
 class TraceCleanupTest : public ::testing::Test {
   protected:
@@ -46,139 +40,12 @@ class TraceCleanupTest : public ::testing::Test {
         RebuildNodeArray();
         RebuildNodeIndex();
     }
-
-    static void UnionLength(double length) { g_model.g_dbTinyTraceLimitSquared = length * length; }
-
-    static std::string NodeAndTraceLines() {
-        MakeNode();
-        return CaptureOutput([](FILE* f) {
-            WriteNodes(f);
-            WriteTraces(f);
-        });
-    }
-
-    static double Width(size_t t) { return g_model.g_aTraces[t].width; }
-    // Each trace as "start-end", "x" before a deleted one; then each node's trace references.
-    static std::string State() {
-        std::string t;
-        for (const TraceRec& tr : g_model.g_aTraces)
-            t += (tr.width == kDeletedTraceWidth ? "x" : "") + std::to_string(tr.startNode) + "-" +
-                 std::to_string(tr.endNode) + " ";
-        t += "|";
-        for (size_t id = 0; id < g_model.g_aNodes.size(); ++id)
-            t += " " + std::to_string(NodeById(static_cast<int32_t>(id))->traceRefs);
-        return t;
-    }
 };
 
 TEST_F(TraceCleanupTest, DeletedWidthIsTheExactBitPattern) {
     uint64_t bits = 0;
     std::memcpy(&bits, &kDeletedTraceWidth, sizeof bits);
     EXPECT_EQ(bits, 0xC7D2CED32A16A1B1ull);
-}
-
-TEST_F(TraceCleanupTest, ZeroLengthTraceOnOneNodeIsKickedOutAndLeavesNoLine) {
-    Trace(5, 5, 5, 5);  // trace 0: a loop on node 0, its only user
-    Trace(1, 1, 1, 1);  // trace 1: a loop on node 1
-    Trace(1, 1, 3, 1);  // trace 2: node 1 to node 2
-    LastRebuild();
-    EXPECT_EQ(State(), "0-0 1-1 1-2 | 2 3 1");
-    KickOutTrivialTrace();
-    EXPECT_EQ(State(), "x0-0 x1-1 1-2 | 0 1 1");  // the records stay
-    EXPECT_EQ(
-        NodeAndTraceLines(),
-        DataFile("geometry/TraceCleanup/ZeroLengthTraceOnOneNodeIsKickedOutAndLeavesNoLine.txt"));
-}
-
-TEST_F(TraceCleanupTest, KickOutTakesDeletedLoopsAgainAndStopsReferencesAtZero) {
-    Trace(5, 5, 5, 5);
-    LastRebuild();
-    g_model.g_aTraces[0].width = kDeletedTraceWidth;
-    NodeById(0)->traceRefs = 1;
-    KickOutTrivialTrace();
-    EXPECT_EQ(State(), "x0-0 | 0");
-}
-
-// Each row: the traces (node numbers follow their ends), whether the end node of trace 0 is
-// held by a pin, the union length, and the state after the tiny-trace pass.
-TEST_F(TraceCleanupTest, TinyTraces) {
-    const struct {
-        const char* what;
-        std::vector<std::array<double, 4>> traces;
-        bool pinOnNode1;
-        double length;
-        const char* state;
-    } rows[] = {
-        {"with limit zero the pass is skipped",
-         {{1, 1, 1.01, 1}, {1.01, 1, 3, 1}},
-         false,
-         0.0,
-         "0-1 1-2 | 1 2 1"},
-        {"a merge moves the going node's traces to the staying node",
-         {{1, 1, 1.01, 1}, {1.01, 1, 3, 1}},
-         false,
-         0.2,
-         "x0-1 0-2 | 1 0 1"},
-        {"a held end stays and the free start goes",
-         {{1, 1, 1.01, 1}, {-2, 1, 1, 1}},
-         true,
-         0.2,
-         "x0-1 2-1 | 0 1 1"},
-        // (3 - 3)² + (3 - 3)² measures 0 although the trace is 3 long; 0.3 exceeds 0.5².
-        {"the measure mixes the coordinates and meets the squared limit",
-         {{3, 0, 3, 3}, {10, 0, 10.3, 0}},
-         false,
-         0.5,
-         "x0-1 2-3 | 0 0 1 1"},
-    };
-    for (const auto& row : rows) {
-        SetUp();
-        for (const auto& t : row.traces) Trace(t[0], t[1], t[2], t[3]);
-        LastRebuild();
-        if (row.pinOnNode1) NodeById(1)->label = "U1-1";
-        UnionLength(row.length);
-        ClearTinyTraces();
-        EXPECT_EQ(State(), row.state) << row.what;
-    }
-    EXPECT_EQ(Width(1), 0.1);
-}
-
-TEST_F(TraceCleanupTest, MergedNodesPrintTheStayingNode) {
-    Trace(1, 1, 1.01, 1);
-    Trace(1.01, 1, 3, 1);
-    LastRebuild();
-    UnionLength(0.2);
-    ClearTinyTraces();
-    EXPECT_EQ(NodeAndTraceLines(),
-              DataFile("geometry/TraceCleanup/MergedNodesPrintTheStayingNode.txt"));
-}
-
-TEST_F(TraceCleanupTest, TraceBetweenTwoViasIsNeverMerged) {
-    ASSERT_NE(AddViaNode(1, 1, 0, kClk, 1, 1), nullptr);
-    ASSERT_NE(AddViaNode(1.0001, 1, 0, kClk, 1, 1), nullptr);
-    Trace(1, 1, 1.0001, 1);
-    LastRebuild();
-    UnionLength(1.0);
-    ClearTinyTraces();
-    EXPECT_EQ(State(), "0-1 | 2 2");
-}
-
-TEST_F(TraceCleanupTest, FlaggedTracesAreLeftButAMergedLoopGoesInTheLastWalk) {
-    Trace(1, 1, 1.01, 1);  // trace 0: flagged, not tried
-    Trace(1, 1, 1.01, 1);  // trace 1: tiny, merges node 1 into node 0
-    LastRebuild();
-    g_model.g_aTraceFlags[0] = 1;
-    UnionLength(0.2);
-    ClearTinyTraces();
-    // Trace 0 turned into a loop on node 0, and was deleted by the last walk.
-    EXPECT_EQ(State(), "x0-0 x0-1 | 0 0");
-}
-
-TEST_F(TraceCleanupTest, NoTracesOrNoNodesDoNothing) {
-    UnionLength(1.0);
-    KickOutTrivialTrace();
-    ClearTinyTraces();
-    EXPECT_TRUE(g_model.g_aTraces.empty());
 }
 
 using TraceGapTest = TraceCleanupTest;
@@ -207,41 +74,6 @@ TEST_F(TraceGapTest, TwentyPercentOnATenthMillimetreGivesAGapOfFourteenHundredth
         EXPECT_EQ(p[k].x, xs[k]) << k;
         EXPECT_EQ(p[k].y, ys[k]) << k;
     }
-}
-
-TEST_F(TraceGapTest, EndInOwnCopperNeedsNoGapOtherNetsAndVoidsDo) {
-    fixtures::AddSquare(0, kPolarityCopper, kClk, 0, 0, 2);   // holds the start of trace 0
-    fixtures::AddSquare(0, kPolarityCopper, kGnd, 9, 0, 2);   // holds the start of trace 1
-    fixtures::AddSquare(0, kPolarityCopper, kClk, 19, 0, 2);  // a CLK fill ...
-    fixtures::AddSquare(0, kPolarityVoid, kGnd, 19.5, 0.5,
-                        1);  // ... with a void at trace 2's start
-    SortShapes();
-    Trace(1, 1, 5, 1);
-    Trace(10, 1, 15, 1);
-    Trace(20, 1, 25, 1);
-    LastRebuild();
-    g_options.g_strTraceGapPercent = "50";
-    GenerateTraceGaps();
-    EXPECT_EQ(g_model.g_aTraces[0].gap, 0);
-    EXPECT_EQ(g_model.g_aTraces[1].gap, 1);
-    EXPECT_EQ(g_model.g_aTraces[2].gap, 1);
-    ASSERT_EQ(g_model.g_aShapes.size(), 6u);
-    EXPECT_EQ(PointsOf(4)[0].x, 10 - 0.1);  // width 0.2, from trace 1's start
-    EXPECT_EQ(PointsOf(5)[0].x, 20 - 0.1);
-}
-
-TEST_F(TraceGapTest, EmptyOrZeroPercentAndDeletedTracesMakeNoGap) {
-    Trace(1, 1, 2, 1);
-    LastRebuild();
-    GenerateTraceGaps();
-    g_options.g_strTraceGapPercent = "0.0";
-    GenerateTraceGaps();
-    EXPECT_TRUE(g_model.g_aShapes.empty());
-    g_model.g_aTraces[0].width = kDeletedTraceWidth;
-    g_options.g_strTraceGapPercent = "20";
-    GenerateTraceGaps();
-    EXPECT_EQ(g_model.g_aTraces[0].gap, 0);
-    EXPECT_TRUE(g_model.g_aShapes.empty());
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
+
+#include "DataCases.h"
 #include "TestSupport.h"
 #include "ibis/CircuitForm.h"
 #include "ibis/CircuitWriter.h"
@@ -8,7 +12,10 @@
 #include "model/TranslationOptions.h"
 
 using testing_support::CaptureOutput;
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
+using testing_support::SplitLines;
 
 namespace {
 
@@ -39,97 +46,53 @@ class CircuitWriterTest : public ::testing::Test {
         &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
 };
 
-// One two-pin part and the block it gets: the name is the part number and the value (or the
-// package), marks become "_", the affix leads; the element line follows the kind.
-TEST_F(CircuitWriterTest, TwoPinPartsGiveTheseBlocks) {
-    const struct {
-        const char *refDes, *partNumber, *value, *affix;
-        std::vector<std::string> pins;
-        const char* block;
-    } rows[] = {
-        {"R1",
-         "RES",
-         "10K",
-         "",
-         {"1", "2"},
-         ".PartialCkt  RES_10K ExtNode = 1 2\nR 1 2 10K\n.EndPartialCkt\n"},
-        {"C1",
-         "CAP,X",
-         "4.7uF",
-         "A_",
-         {"2", "1"},
-         ".PartialCkt  A_CAP_X_4_7u ExtNode = 1 2\nC 2 1 4.7u\n.EndPartialCkt\n"},
-        {"X1", "PN", "", "", {"1", "2"}, ".PartialCkt  PN_PKG ExtNode = 1 2\n.EndPartialCkt\n"},
-    };
-    for (const auto& row : rows) {
+// Components, one a line as "designator part-number value pins..." ("-" for no value), and
+// the circuit section they give, written twice; "affix=TEXT" sets the name affix, "links=TW"
+// the two linkage switches (translate, write).
+TEST_F(CircuitWriterTest, PartsGiveTheseBlocks) {
+    for (const DataCase& c : DataCases("ibis/CircuitWriter/Parts.txt")) {
         SetUp();
-        g_options.g_strNameAffix = row.affix;
-        AddComponent(row.refDes, row.partNumber, row.value, row.pins);
+        for (const std::string& arg : c.args) {
+            if (arg.rfind("affix=", 0) == 0) g_options.g_strNameAffix = arg.substr(6);
+            if (arg.rfind("links=", 0) == 0) {
+                g_options.g_bTranslateLinkages = arg[6] - '0';
+                g_options.g_bWriteLinkages = arg[7] - '0';
+            }
+        }
+        for (const std::string& line : SplitLines(c.input)) {
+            std::istringstream words(line);
+            std::string refDes, partNumber, value;
+            words >> refDes >> partNumber >> value;
+            AddComponent(refDes, partNumber, value == "-" ? "" : value,
+                         {std::istream_iterator<std::string>(words), {}});
+        }
         ModelAssignment assignment{
             &g_model.g_mapComponents, "out.qfx", nullptr, nullptr, nullptr, "in.ndd"};
         assignment.ResolveModels();
-        const std::string want = std::string("* Circuit description block\n") + row.block + "\n";
-        EXPECT_EQ(Circuit(assignment), want) << row.refDes;
-        EXPECT_EQ(Circuit(assignment), want) << "the second writing of " << row.refDes;
+        EXPECT_EQ(Circuit(assignment), c.expected) << c.title;
+        EXPECT_EQ(Circuit(assignment), c.expected) << "again: " << c.title;
     }
 }
 
-TEST_F(CircuitWriterTest, ElementLineBreaksBehindEveryTenthName) {
-    ComponentRec c;
-    c.kind = "R";
-    c.value = "1K";
-    for (int i = 1; i <= 12; ++i) {
-        PinRec pin;
-        pin.name = std::to_string(i);
-        c.pins.push_back(pin);
+// A passive part as "element KIND VALUE PINS..." ("-" for no value) and its element line, or
+// as "block NAME PINS..." and its block.
+TEST(PassiveText, PartsGiveTheseLines) {
+    for (const DataCase& c : DataCases("ibis/CircuitWriter/Passive.txt")) {
+        std::istringstream words(c.input);
+        std::string form, first, second;
+        ComponentRec part;
+        words >> form >> first;
+        if (form == "element") {
+            words >> second;
+            part.kind = first;
+            part.value = second == "-" ? "" : second;
+        } else {
+            part.blockName = first;
+        }
+        for (std::string name; words >> name;) part.pins.emplace_back().name = name;
+        EXPECT_EQ(form == "element" ? PassiveElementLine(part) : PassiveBlockText(part), c.expected)
+            << c.title;
     }
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10\n+ 11 12 1K\n");
-    c.pins.resize(10);
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 3 4 5 6 7 8 9 10 1K\n");
-    c.value.clear();
-    c.pins.resize(2);
-    EXPECT_EQ(PassiveElementLine(c), "R 1 2 \n");
-    c.kind = "?";
-    EXPECT_EQ(PassiveElementLine(c), "");
-}
-
-TEST_F(CircuitWriterTest, TerminalsAreSortedAndWrapPastSeventyFiveCharacters) {
-    ComponentRec c;
-    c.blockName = "BLOCK";
-    for (int i = 12; i >= 1; --i) {
-        PinRec pin;
-        char name[16];
-        std::snprintf(name, sizeof name, "PIN_%02d", i);
-        pin.name = name;
-        c.pins.push_back(pin);
-    }
-    // 28 characters before the names; the seventh name brings the line to 77.
-    EXPECT_EQ(PassiveBlockText(c),
-              ".PartialCkt  BLOCK ExtNode = PIN_01 PIN_02 PIN_03 PIN_04 PIN_05 PIN_06 PIN_07\n"
-              "+ PIN_08 PIN_09 PIN_10 PIN_11 PIN_12\n"
-              ".EndPartialCkt\n");
-    ComponentRec d;
-    d.blockName = "B";
-    for (const char* name : {"b", "10", "A", "2", "a", "1"}) {
-        PinRec pin;
-        pin.name = name;
-        d.pins.push_back(pin);
-    }
-    EXPECT_EQ(PassiveBlockText(d), ".PartialCkt  B ExtNode = 1 10 2 A a b\n.EndPartialCkt\n");
-}
-
-TEST_F(CircuitWriterTest, NeighbouringEqualBlocksArePrintedOnce) {
-    // "A,B" and "A_B" give different block names but the same printed text.
-    AddComponent("R1", "A,B", "1K", {"1", "2"});
-    AddComponent("R2", "A_B", "1K", {"1", "2"});
-    models.ResolveModels();
-    ASSERT_EQ(models.blocks.Size(), 2u);
-    EXPECT_EQ(Circuit(models),
-              "* Circuit description block\n"
-              ".PartialCkt  A_B_1K ExtNode = 1 2\n"
-              "R 1 2 1K\n"
-              ".EndPartialCkt\n"
-              "\n");
 }
 
 TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
@@ -151,15 +114,6 @@ TEST_F(CircuitWriterTest, EqualBlocksWithAnotherBetweenThemArePrintedTwice) {
     std::string text = Circuit(models);
     EXPECT_EQ(text, "* Circuit description block\n" + same +
                         ".PartialCkt  OTHER ExtNode = 1 2\n.EndPartialCkt\n" + same + "\n");
-}
-
-TEST_F(CircuitWriterTest, BothLinkageOptionsOffPrintNothing) {
-    AddComponent("R1", "RES", "10K", {"1", "2"});
-    models.ResolveModels();
-    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
-    EXPECT_EQ(Circuit(models), "");
-    g_options.g_bTranslateLinkages = 1;
-    EXPECT_EQ(Circuit(models), "* Circuit description block\n\n");
 }
 
 // A three-pin IBIS part: two signal pins with models and a power pin.

@@ -4,8 +4,11 @@
 
 #include <cstring>
 
+#include "DataCases.h"
 #include "TestSupport.h"
 
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ReadFile;
 using testing_support::ScratchDir;
 
@@ -13,8 +16,6 @@ namespace {
 
 // A vendor's file, kept in tests/data/ibis (see the README there).
 const char kVendorFile[] = NDD2QFX_SOURCE_DIR "/tests/data/ibis/sn74lvc1g14.ibs";
-
-const std::string kMapped = testing_support::DataFile("ibisreader/u74_mapped.ibs");
 
 // The active component U1 with these pins, reading text (or the file at path when one is
 // given) through ParseIbisFile.
@@ -50,78 +51,18 @@ struct Read {
     ComponentRec c;
 };
 
-const std::vector<std::string> kPins = {"1", "2", "3", "5", "6"};
-// The node names of a 3-state pin 2.
-const std::string kOutNodes =
-    " nd_pu_2_3-state nd_pd_2_3-state nd_out_2_3-state nd_in_2_3-state nd_en_2_3-state "
-    "gnd_2_3-state nd_pc_2_3-state nd_gc_2_3-state";
-
-TEST(ParseIbisFile, PinMappingAndModelsGiveReferencesNodesAndACompleteMapping) {
-    Read r(kPins, kMapped);
-    // An input model has only the clamp references.
-    const std::string want =
-        "1011\n"
-        "1 c0 A IN_MODEL Input m1 [,,GNDBUS,VCCBUS] [,] nd_in_1_Input nd_pc_1_Input "
-        "nd_gc_1_Input nd_in_1_Input gnd_1_Input nd_out_of_in_1_Input\n"
-        "2 c0 Y OUT_MODEL 3-state m1 [GNDBUS,VCCBUS,GNDBUS,VCCBUS] [,] nd_out_2_3-state" +
-        kOutNodes +
-        "\n"
-        "3 c2 GND gnd  m0 [,,,] [,GNDBUS] \n"
-        "5 c1 VCC Power  m0 [,,,] [VCCBUS,] \n"
-        "6 c-1 NC NC  m0 [,,,] [,] \n";
-    EXPECT_EQ(r.Text(), want);
-    // A second read rewrites the same fields and adds no node names.
-    ParseIbisFile(r.c);
-    EXPECT_EQ(r.Text(), want);
-}
-
-// Each row is kMapped with one piece replaced, and the lines of the flags and of one pin.
-TEST(ParseIbisFile, ChangedMappings) {
-    const struct {
-        const char *from, *to, *flags;
-        std::string pin;
-    } rows[] = {
-        // A power bus listed first is sorted by its kind.
-        {"2  GNDBUS  VCCBUS\n", "2  VCCBUS  GNDBUS\n", "1011",
-         "2 c0 Y OUT_MODEL 3-state m1 [GNDBUS,VCCBUS,GNDBUS,VCCBUS] [,] nd_out_2_3-state" +
-             kOutNodes},
-        // Only pulldown and gnd clamp: no pair of opposite references.
-        {"2  GNDBUS  VCCBUS\n", "2  GNDBUS\n", "1010",
-         "2 c0 Y OUT_MODEL 3-state m1 [GNDBUS,,GNDBUS,] [,] nd_out_2_3-state" + kOutNodes},
-        // Fewer mapping rows than pins.
-        {"6\n[", "[", "1010", "6 c-1 NC NC  m0 [,,,] [,] "},
-        // A pin the package lacks ends the read; the rows read before it are discarded.
-        {"6      NC", "A99    NC", "1100", "1 c-1    m0 [,,,] [,] "},
-    };
-    for (const auto& row : rows) {
-        std::string text = kMapped;
-        text.replace(text.find(row.from), std::strlen(row.from), row.to);
-        const std::string got = Read(kPins, text).Text();
-        EXPECT_EQ(got.substr(0, 5), std::string(row.flags) + "\n") << row.to;
-        EXPECT_NE(got.find("\n" + row.pin + "\n"), std::string::npos) << row.to << "\n" << got;
+// Files read for the pins named on the "--" line ("missing" first: the file does not
+// exist), and the flags and pins read (see Read::Text); a second read gives the same again
+// and adds no node names.
+TEST(ParseIbisFile, FilesGiveThesePins) {
+    for (const DataCase& c : DataCases("ibis/IbisReader/Reads.txt")) {
+        const bool missing = !c.args.empty() && c.args[0] == "missing";
+        Read r({c.args.begin() + missing, c.args.end()}, c.input,
+               missing ? "/nonexistent/folder/x.ibs" : "");
+        EXPECT_EQ(r.Text(), c.expected) << c.title;
+        ParseIbisFile(r.c);
+        EXPECT_EQ(r.Text(), c.expected) << "again: " << c.title;
     }
-}
-
-TEST(ParseIbisFile, OddFilesAndComponents) {
-    const struct {
-        const char* what;
-        const char* text;  // null: the file is missing
-        const char* want;
-    } rows[] = {
-        {"missing file", nullptr, "0110\n1 c-1    m0 [,,,] [,] \n"},
-        {"terminator models get no nodes",
-         "[Pin] signal model\n1 A TERM\n[Model] TERM\n"
-         "Model_type Terminator\n",
-         "1010\n1 c0 A TERM Terminator m0 [,,,] [,] \n"},
-        {"nameless model", "[Pin]\n1 A IN\n[Model]\nModel_type Input\n",
-         "1010\n1 c0 A IN  m0 [,,,] [,] \n"},
-        {"empty file", "", "1010\n1 c-1    m0 [,,,] [,] \n"},
-    };
-    for (const auto& row : rows) {
-        Read r({"1"}, row.text ? row.text : "", row.text ? "" : "/nonexistent/folder/x.ibs");
-        EXPECT_EQ(r.Text(), row.want) << row.what;
-    }
-    ScratchDir dir;
     ComponentRec passive;
     passive.ibisFile = "/nonexistent/folder/x.ibs";
     ParseIbisFile(passive);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "ibis/CircuitForm.h"
@@ -12,7 +15,10 @@
 #include "ndd/NetTable.h"
 
 using testing_support::CaptureOutput;
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
+using testing_support::SplitLines;
 
 namespace {
 
@@ -37,6 +43,8 @@ ComponentRec& TwoPinPart(const std::string& refDes, double x, double y, const st
     return g_model.g_mapComponents.Set(refDes, c);
 }
 
+// A whole run with a linked and an unlinked component is the case
+// components_give_blocks_and_linkages; here the rules on hand-built nodes.
 class LinkageTest : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -70,76 +78,44 @@ class LinkageTest : public ::testing::Test {
     std::string bindLog;
 };
 
-TEST_F(LinkageTest, PinsBindToNodesAtTheirPrintedPlace) {
-    AddNode(nullptr, 0.5, 2.0, 0, 0, 0, nullptr, 0.0);  // node 0, net N1
-    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);  // node 1, net N2
-    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
-    Bind();
-    EXPECT_EQ(bindLog, "\n\nComponent Model Info :\n\n1] Component RefDes : R1 ");
-    std::string log;
-    EXPECT_EQ(Linkage(&log),
-              "* Linkage description line\n"
-              ".Connect R1 RES_10K\n"
-              "1 $Package.Node0!!1::N1\n"
-              "2 $Package.Node1!!2::N2\n"
-              ".EndC\n"
-              "\n");
-    EXPECT_EQ(log,
-              "\n\nComponent Linkage Info :\n\n"
-              "\nTotal No Of Components Not Linked = 0\n");
-    EXPECT_EQ(g_model.g_aNodes[0].label, "1");
-    EXPECT_EQ(g_model.g_mapComponents.Find("R1")->pins.front().nodeId, "0");
-}
-
-TEST_F(LinkageTest, KeysCompareSixDecimalsWithoutTolerance) {
+// Nodes on TOP and two-pin parts of RES 10K, one a line: "node X Y NET" ("-" for no net) and
+// "part DESIGNATOR X Y NET1 NET2" with pins at -0.5 and 0.5; "nonet" includes no-net
+// elements, "links=TW" sets the two linkage switches. Expected: the node of each pin, the
+// binding log, the linkage section and its log.
+TEST_F(LinkageTest, NodesAndPartsGiveTheseLinkages) {
     EXPECT_EQ(NodeKey(0.5000004, -2.0, 3), "0.500000#-2.000000#3");
-    AddNode(nullptr, 0.5000004, 2.0, 0, 0, 0, nullptr, 0.0);  // prints as 0.500000
-    AddNode(nullptr, 1.5000006, 2.0, 0, 1, 0, nullptr, 0.0);  // prints as 1.500001
-    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
-    Bind();
-    const ComponentRec& r1 = *g_model.g_mapComponents.Find("R1");
-    EXPECT_EQ(r1.pins.front().nodeId, "0");
-    EXPECT_EQ(r1.pins.back().nodeId, "");
-}
-
-TEST_F(LinkageTest, AComponentWithOneLinkedPinIsNotLinked) {
-    AddNode(nullptr, 0.5, 2.0, 0, 0, 0, nullptr, 0.0);
-    TwoPinPart("U7", 1.0, 2.0, "N1", "N2");
-    Bind();
-    std::string log;
-    EXPECT_EQ(Linkage(&log), "* Linkage description line\n\n");
-    EXPECT_EQ(log,
-              "\n\nComponent Linkage Info :\n\n"
-              "1] Component : U7 is Not Linked\n"
-              "\nTotal No Of Components Not Linked = 1\n");
-}
-
-TEST_F(LinkageTest, NoNetNodesAndUnselectedNetsStayOut) {
-    AddNode(nullptr, 0.5, 2.0, 0, kNoNet, 0, nullptr, 0.0);
-    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);
-    TwoPinPart("R1", 1.0, 2.0, "", "N2");
-    Bind();
-    const ComponentRec& r1 = *g_model.g_mapComponents.Find("R1");
-    EXPECT_EQ(r1.pins.front().nodeId, "");  // no-net nodes are left out of the key map
-    std::string log;
-    EXPECT_EQ(Linkage(&log), "* Linkage description line\n\n");
-
-    // With no-net elements included the pin binds and is linked without a net label.
-    ResetGlobals();
-    fixtures::MakeSignalLayers({"TOP"});
-    Nets({"N1", "N2"});
-    g_options.g_nIncludeNoNetEtches = 1;
-    AddNode(nullptr, 0.5, 2.0, 0, kNoNet, 0, nullptr, 0.0);
-    AddNode(nullptr, 1.5, 2.0, 0, 1, 0, nullptr, 0.0);
-    TwoPinPart("R1", 1.0, 2.0, "", "N2");
-    Bind();
-    EXPECT_EQ(Linkage(&log),
-              "* Linkage description line\n"
-              ".Connect R1 RES_10K\n"
-              "1 $Package.Node0!!1\n"
-              "2 $Package.Node1!!2::N2\n"
-              ".EndC\n"
-              "\n");
+    for (const DataCase& c : DataCases("ibis/LinkageWriter/Nodes.txt")) {
+        SetUp();
+        for (const std::string& arg : c.args) {
+            if (arg == "nonet") g_options.g_nIncludeNoNetEtches = 1;
+            if (arg.rfind("links=", 0) == 0) {
+                g_options.g_bTranslateLinkages = arg[6] - '0';
+                g_options.g_bWriteLinkages = arg[7] - '0';
+            }
+        }
+        for (const std::string& line : SplitLines(c.input)) {
+            std::istringstream words(line);
+            std::string kind, name, net1, net2;
+            double x = 0, y = 0;
+            words >> kind;
+            if (kind == "node") {
+                words >> x >> y >> net1;
+                AddNode(nullptr, x, y, 0, net1 == "-" ? kNoNet : NetIndexByName(net1), 0, nullptr,
+                        0.0);
+            } else {
+                words >> name >> x >> y >> net1 >> net2;
+                TwoPinPart(name, x, y, net1 == "-" ? "" : net1, net2);
+            }
+        }
+        Bind();
+        std::string got = "pins";
+        for (const std::string& key : g_model.g_mapComponents.Keys())
+            for (const PinRec& pin : g_model.g_mapComponents.Find(key)->pins)
+                got += " " + key + "." + pin.name + ":" + pin.nodeId;
+        std::string log;
+        got += "\n" + bindLog + "\n--- linkage\n" + Linkage(&log) + "--- log\n" + log;
+        EXPECT_EQ(got, c.expected) << c.title;
+    }
 }
 
 TEST_F(LinkageTest, LabelsComeFromTheNodeWhenTheyDiffer) {
@@ -158,15 +134,6 @@ TEST_F(LinkageTest, LabelsComeFromTheNodeWhenTheyDiffer) {
               "2 $Package.Node1!!B2::N2\n"
               ".EndC\n"
               "\n");
-}
-
-TEST_F(LinkageTest, LinkagesOffPrintNeitherCommentNorLog) {
-    TwoPinPart("R1", 1.0, 2.0, "N1", "N2");
-    Bind();
-    g_options.g_bTranslateLinkages = g_options.g_bWriteLinkages = 0;
-    std::string log;
-    EXPECT_EQ(Linkage(&log), "");
-    EXPECT_EQ(log, "");
 }
 
 TEST_F(LinkageTest, ATraceAcrossThePadGivesThePinANode) {

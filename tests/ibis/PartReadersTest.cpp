@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "ibis/Parts.h"
@@ -7,6 +8,8 @@
 #include "model/TranslationOptions.h"
 #include "ndd/NddInput.h"
 
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
 using testing_support::ScratchDir;
 
@@ -37,63 +40,28 @@ std::string ComponentText(const std::string& refDes) {
     return t;
 }
 
-TEST(ReadAliasProperties, TableEndsAtTheFirstRowThatIsNoIcxPropertyOneLineRecordsAreAllRead) {
-    ResetGlobals();
+// Alias tables, then the packages read up to the first gate: "aliases NAME=VALUE ..." and a
+// line a package with its pins (name, padstack, library place, rotation).
+TEST(ReadPartTables, AliasesAndPackages) {
     ScratchDir dir;
-    ReadAliasProperties(dir.Write("a.ndd",
-                                  "%aliasprop\n"
-                                  "ICX_VALUE \"VALUE\"\n"
-                                  "# a comment row\n"
-                                  "ICX_PART_NUMBER \"PARTNO\"\n"
-                                  "OTHER \"X\"\n"
-                                  "ICX_REF_DES \"REF\"\n"
-                                  "%aliasprop ICX_PIN_NUMBER \"PINNO\"\n"));
-    EXPECT_EQ(g_model.g_mapAliasProps.Size(), 2u);
-    EXPECT_EQ(*g_model.g_mapAliasProps.Find("ICX_VALUE"), "VALUE");
-    EXPECT_EQ(*g_model.g_mapAliasProps.Find("ICX_PART_NUMBER"), "PARTNO");
-    ResetGlobals();
-    ReadAliasProperties(dir.Write("b.ndd",
-                                  "%aliasprop ICX_PIN_NUMBER \"PINNO\"\n"
-                                  "%port \"U1-1\" \"N1\";\n"
-                                  "%aliasprop \"ICX_REF_DES\" \"REF\"\n"));
-    EXPECT_EQ(g_model.g_mapAliasProps.Size(), 2u);
-    EXPECT_EQ(*g_model.g_mapAliasProps.Find("ICX_PIN_NUMBER"), "PINNO");
-    EXPECT_EQ(*g_model.g_mapAliasProps.Find("ICX_REF_DES"), "REF");
-}
-
-TEST(ReadPackageDefs, ReadsBothPinlocFormsAndStopsAtTheFirstGate) {
-    ResetGlobals();
-    ScratchDir dir;
-    auto stream = OpenNdd(dir.Write("board.ndd",
-                                    "%gate \"before any package\"\n"
-                                    "%packagedef \"SOT5\"\n"
-                                    "%pinloc\n"
-                                    "  \"1\" \"PAD,A 1\" -100000 50000 90;\n"
-                                    "# comment row\n"
-                                    "  \"2\" \"PADB\" 0 0 0;\n"
-                                    "%package_drc_bound 1 2 3 4;\n"
-                                    "%packagedef \"RES0603\"\n"
-                                    "%pinloc \"1\" \"SMD\" -80000 0 0;\n"
-                                    "%origin 0 0;\n"
-                                    "%pinloc \"2\" \"SMD\" 80000 0 180;\n"
-                                    "\n"
-                                    "%gate \"g1\"\n"
-                                    "%packagedef \"LATE\"\n"));
-    ReadPackageDefs(*stream);
-    std::string text;
-    for (const char* name : {"SOT5", "RES0603", "LATE"}) {
-        const PackageDefRec* pkg = g_model.g_mapPackageDefs.Find(name);
-        text += std::string(name) + ":";
-        if (pkg)
-            for (const PinRec& p : pkg->pins)
-                text += " " + p.name + " " + p.padStackName + " " + Num(p.libX) + "," +
-                        Num(p.libY) + " r" + Num(p.rotation);
-        text += pkg ? "\n" : " none\n";
+    for (const DataCase& c : DataCases("ibis/PartReaders/Tables.txt")) {
+        ResetGlobals();
+        const std::string path = dir.Write(c.title + ".ndd", c.input);
+        ReadAliasProperties(path);
+        ReadPackageDefs(*OpenNdd(path));
+        std::string got = "aliases";
+        for (const std::string& key : g_model.g_mapAliasProps.Keys())
+            got += " " + key + "=" + *g_model.g_mapAliasProps.Find(key);
+        got += "\n";
+        for (const std::string& name : g_model.g_mapPackageDefs.Keys()) {
+            got += name + ":";
+            for (const PinRec& p : g_model.g_mapPackageDefs.Find(name)->pins)
+                got += " " + p.name + " " + p.padStackName + " " + Num(p.libX) + "," + Num(p.libY) +
+                       " r" + Num(p.rotation);
+            got += "\n";
+        }
+        EXPECT_EQ(got, c.expected) << c.title;
     }
-    EXPECT_EQ(text,
-              "SOT5: 1 PAD_A_1 -1,0.5 r90 2 PADB 0,0 r0\n"
-              "RES0603: 1 SMD -0.8,0 r0 2 SMD 0.8,0 r180\n"
-              "LATE: none\n");
 }
 
 // A two-pin package RES0603 on a three-layer stack; Place reads %partinst records.
@@ -123,60 +91,30 @@ class PlacementTest : public ::testing::Test {
     ScratchDir dir;
 };
 
-TEST_F(PlacementTest, TypedValuesAreRewrittenToUnitLetters) {
-    Place(
-        "%partinst \"R1\" \"RES0603\" 100000 200000 0 %topplace ;\n"
-        "%prop \"ICX_VALUE\" \"RES 10K\"\n"
-        "%partinst \"C1\" \"RES0603\" 0 0 90 %bottomplace ;\n"
-        "%prop \"ICX_VALUE\" \"CAP 100\"\n"
-        "%partinst \"L1\" \"RES0603\" 0 0 270 %topplace ;\n"
-        "# a comment between\n"
-        "ICX_VALUE \"IND 10\"\n"
-        "%partinst \"R2\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%prop \"ICX_VALUE\" \"RES 10\"\n"
-        "%partinst\n"
-        "\"R3\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%prop \"ICX_VALUE\" \"RES 4.7K\"\n"
-        "%partinst \"R4\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%prop \"ICX_VALUE\" \"RES 2M2\"\n"
-        "%partinst \"C2\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%prop \"ICX_VALUE\" \"CAP 10NF\"\n");
-    std::string got;
-    for (const char* r : {"R1", "C1", "L1", "R2", "R3", "R4", "C2"})
-        got += std::string(r) + "=" + Comp(r).value + Comp(r).kindFromRefDes +
-               std::to_string(Comp(r).hasValue) + " ";
-    EXPECT_EQ(got, "R1=10KR1 C1=100uC1 L1=10mL1 R2=10R1 R3=4.7KR1 R4=2MegR1 C2=10nC1 ");
-}
-
-TEST_F(PlacementTest, AliasedValueKeepsItsTextAndOnlyTheNextValueLineCounts) {
-    g_options.g_strValueFieldName = "VALUE";
-    Place(
-        "%partinst \"X1\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%prop \"VALUE\" \"0.1uF\"\n"
-        "%prop \"VALUE\" \"ignored\"\n");
-    EXPECT_EQ(ComponentText("X1"),
-              "X1 RES0603 0,0 r0 '%topplace ' L0  0.1uF v1 a0   1:@-0.8,0:SMD 2:@0.8,0:SMD");
-}
-
-TEST_F(PlacementTest, PlacementFieldsSideAndDesignatorRules) {
-    const std::string text =
-        "%partinst \"R1\" \"RES0603\" 100000 200000 45 %topplace ;\n"
-        "%partinst \"C1\" \"RES0603\" 0 0 90 %bottomplace ;\n"
-        "%partinst \"R\" \"NOPKG\" 0 0 0 %topplace ;\n"
-        "%partinst \"U12\" \"RES0603\" 0 0 0 %bottomplace ;\n";
-    Place(text);
-    EXPECT_EQ(ComponentText("R1"),
-              "R1 RES0603 1,2 r45 '%topplace ' L0 R  v0 a0   1:@-0.565685,-0.565685:SMD "
-              "2:@0.565685,0.565685:SMD");
-    EXPECT_EQ(ComponentText("C1"),
-              "C1 RES0603 0,0 r90 '%bottomplace ' L2 C  v0 a0   1:@0,-0.8:SMD 2:@0,0.8:SMD");
-    EXPECT_EQ(ComponentText("R"), "R NOPKG 0,0 r0 '%topplace ' L0 R  v0 a1  ");
-    EXPECT_EQ(ComponentText("U12"),
-              "U12 RES0603 0,0 r0 '%bottomplace ' L2   v0 a1   1:@-0.8,0:SMD 2:@0.8,0:SMD");
-    // Without the side every component is on the top conductor.
-    SetUp();
-    Place(text, 0);
-    EXPECT_EQ(Comp("C1").layer, 0);
+// Placements, and gates after a "%%gates" line; the arguments: "noside" reads without the
+// placement side, "value=NAME" names the value field, "alias:KEY=NAME" sets an alias. Expected:
+// each component on one line (see ComponentText), "{dir}" for the folder.
+TEST_F(PlacementTest, RecordsGiveTheseComponents) {
+    for (const DataCase& c : DataCases("ibis/PartReaders/Placements.txt")) {
+        SetUp();
+        int side = 1;
+        for (const std::string& arg : c.args) {
+            if (arg == "noside") side = 0;
+            if (arg.rfind("value=", 0) == 0) g_options.g_strValueFieldName = arg.substr(6);
+            size_t eq = arg.find('=');
+            if (arg.rfind("alias:", 0) == 0)
+                g_model.g_mapAliasProps.Set(arg.substr(6, eq - 6), arg.substr(eq + 1));
+        }
+        size_t gates = c.input.find("%%gates\n");
+        Place(c.input.substr(0, gates), side);
+        if (gates != std::string::npos) ReadGates(c.input.substr(gates + 8));
+        std::string got;
+        for (const std::string& refDes : g_model.g_mapComponents.Keys())
+            got += ComponentText(refDes) + "\n";
+        size_t at = got.find(dir.Path());
+        if (at != std::string::npos) got.replace(at, dir.Path().size(), "{dir}");
+        EXPECT_EQ(got, c.expected) << c.title;
+    }
 }
 
 TEST_F(PlacementTest, QuarterTurnsAreExactAndOtherAnglesGoThroughSine) {
@@ -193,59 +131,6 @@ TEST_F(PlacementTest, QuarterTurnsAreExactAndOtherAnglesGoThroughSine) {
     EXPECT_NE(Comp("L2").pins.back().x, 0.0);
     EXPECT_NEAR(Comp("L2").pins.back().x, 0.0, 1e-12);
     EXPECT_NEAR(Comp("L2").pins.back().y, -0.8, 1e-12);
-}
-
-TEST_F(PlacementTest, APlacementSeenTwiceKeepsItsFirstPinsAndTakesTheLaterPosition) {
-    Place(
-        "%partinst \"R1\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%partinst \"R1\" \"RES0603\" 100000 0 90 %topplace ;\n");
-    // The pins were turned by the first rotation, 0.
-    EXPECT_EQ(ComponentText("R1"),
-              "R1 RES0603 1,0 r90 '%topplace ' L0 R  v0 a0   1:@-0.8,0:SMD 2:@0.8,0:SMD");
-}
-
-TEST_F(PlacementTest, GatesGivePartNumbersDefaultIbisFilesAndPinNets) {
-    Place(
-        "%partinst \"R1\" \"RES0603\" 0 0 0 %topplace ;\n"
-        "%partinst \"C1\" \"RES0603\" 0 0 0 %topplace ;\n");
-    ReadGates(
-        "%gatedef \"ignored\" ICX_REF_DES \"R1\"\n"
-        "%gate \"g1\"\n"
-        "%prop \"ICX_PART_NUMBER\" \"RESPN\"\n"
-        "%prop \"ICX_REF_DES\" \"R1\"\n"
-        "%port \"1\" \"N1\"\n"
-        "%prop \"ICX_PIN_NUMBER\" \"1\"\n"
-        "%port \"2\" \"N2\"\n"
-        "%prop \"ICX_PIN_NUMBER\" \"2\"\n"
-        "%gate \"g2\"\n"
-        "%prop \"ICX_REF_DES\" \"C1\"\n"
-        "%prop \"ICX_PART_NUMBER\" \"CAPPN\"\n"
-        "%powerport \"VCC\" \"VDD\" \"1\"\n"
-        "%prop \"ICX_PIN_NUMBER\" \"1\"\n"
-        "%net \"N1\"\n"
-        "%prop \"ICX_PIN_NUMBER\" \"2\"\n");
-    // The part number came before the designator: no default file for R1. The pass ended at
-    // "%net".
-    EXPECT_EQ(ComponentText("R1"),
-              "R1 RES0603 0,0 r0 '%topplace ' L0 R  v0 a0 RESPN  1:N1@-0.8,0:SMD 2:N2@0.8,0:SMD");
-    EXPECT_EQ(ComponentText("C1"), "C1 RES0603 0,0 r0 '%topplace ' L0 C  v0 a0 CAPPN " +
-                                       dir.Path() +
-                                       "/IBISModels/CAPPN.ibs 1:VDD@-0.8,0:SMD 2:@0.8,0:SMD");
-}
-
-TEST_F(PlacementTest, AliasedPropertiesAreMatchedInTheFirstTwoTokens) {
-    Place("%partinst \"C1\" \"RES0603\" 0 0 0 %topplace ;\n");
-    g_model.g_mapAliasProps.Set("ICX_REF_DES", "REFDES");
-    g_model.g_mapAliasProps.Set("ICX_PIN_NUMBER", "PIN");
-    ReadGates(
-        "%gate \"g1\"\n"
-        "REFDES \"C1\"\n"
-        "%port \"1\" \"N9\"\n"
-        "%prop PIN \"1\"\n"
-        "%part \"X\"\n"
-        "%prop PIN \"2\"\n");
-    EXPECT_EQ(PinText(Comp("C1").pins.front()) + " " + PinText(Comp("C1").pins.back()),
-              "1:N9@-0.8,0:SMD 2:@0.8,0:SMD");
 }
 
 TEST(PowerPorts, ContinuationRowsAndApplyToTheFirstPinOfThatName) {
@@ -282,18 +167,20 @@ TEST(PowerPorts, ContinuationRowsAndApplyToTheFirstPinOfThatName) {
 }
 
 TEST(RewriteTypedValue, SuffixLettersAreEachTested) {
-    std::string kind;
-    EXPECT_EQ(RewriteTypedValue("RES 10k", kind), "10K");
-    EXPECT_EQ(kind, "R");
-    EXPECT_EQ(RewriteTypedValue("CAP 0.1UF", kind), "0.1u");
-    EXPECT_EQ(kind, "C");
-    // "mn" holds two of the letters, so two are appended.
-    EXPECT_EQ(RewriteTypedValue("IND 3mn", kind), "3nm");
-    EXPECT_EQ(kind, "L");
-    kind = "?";
-    EXPECT_EQ(RewriteTypedValue("XYZ 5K", kind), "5");
-    EXPECT_EQ(kind, "?");
-    EXPECT_EQ(RewriteTypedValue("10K", kind), "");
+    const struct {
+        const char *text, *value, *kind;
+    } rows[] = {{"RES 10k", "10K", "R"},
+                {"CAP 0.1UF", "0.1u", "C"},
+                // "mn" holds two of the letters, so two are appended.
+                {"IND 3mn", "3nm", "L"},
+                {"XYZ 5K", "5", "?"},
+                {"10K", "", "?"}};
+    for (const auto& row : rows) {
+        std::string kind = "?";
+        EXPECT_EQ(RewriteTypedValue(row.text, kind) + " " + kind,
+                  std::string(row.value) + " " + row.kind)
+            << row.text;
+    }
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <sstream>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "ibis/Parts.h"
@@ -10,7 +11,10 @@
 #include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
+using testing_support::SplitLines;
 
 namespace {
 
@@ -55,41 +59,66 @@ class PlacePinsTest : public ::testing::Test {
         c.pins.push_back(pin);
         return c.pins.back();
     }
-    const NodeRec& OnlyNode() {
-        EXPECT_EQ(g_model.g_setNodes.size(), 1u);
-        return *g_model.g_setNodes.begin();
+    // The nodes as "layer x,y net label mMIRRORED cCONTACT rROTATION padstack", then the vias
+    // as "via x Lstart-end net nNOCONTACT rROTATION padstack drill/padstack-drill of
+    // drills", and the pins as
+    // "pin name node hasNode padstack".
+    static std::string Placed() {
+        auto net = [](int32_t n) {
+            return n == kNoNet ? std::string("nonet") : g_model.g_strNetNames[n].name;
+        };
+        auto stack = [](const PadStackRec* s) { return s ? s->name : std::string("-"); };
+        std::string t;
+        for (const NodeRec& n : g_model.g_setNodes)
+            t += "node L" + std::to_string(n.layer) + " " + testing_support::Exact(n.x) + "," +
+                 testing_support::Exact(n.y) + " " + net(n.net) + " " + n.label.str() + " m" +
+                 std::to_string(n.mirrored) + " c" + std::to_string(n.contact) + " r" +
+                 testing_support::Exact(n.rotation) + " " + stack(n.padStack) + "\n";
+        for (const ViaRec& v : g_model.g_aVias)
+            t += "via " + testing_support::Exact(v.x) + " L" + std::to_string(v.startLayer) + "-" +
+                 std::to_string(v.endLayer) + " " + net(v.net) + " n" +
+                 std::to_string(v.noContact) + " r" + testing_support::Exact(v.rotation) + " " +
+                 stack(v.padStack) + " " +
+                 testing_support::Exact(g_model.g_aDrillRadii.at(v.drillIndex).radius) + "/" +
+                 testing_support::Exact(v.padStack->drill) + " of " +
+                 std::to_string(g_model.g_aDrillRadii.size()) + "\n";
+        for (const std::string& key : g_model.g_mapComponents.Keys())
+            for (const PinRec& pin : g_model.g_mapComponents.Find(key)->pins)
+                t += "pin " + key + "." + pin.name + " " + pin.nodeId + " h" +
+                     std::to_string(pin.hasNode) + " " + stack(pin.padStack) + "\n";
+        return t;
     }
 };
 
-TEST_F(PlacePinsTest, TopSurfacePinBecomesANodeOnThePadstackLayer) {
-    ComponentRec& c = Part("R1", 30.0, "%topplace ");
-    PinRec& pin = AddPin(c, "1", "SMD", "N2", 1.5, -0.5, 350.0);
-    ASSERT_EQ(PlacePins(), 1);
-    const NodeRec& node = OnlyNode();
-    EXPECT_EQ(node.layer, 0);
-    EXPECT_EQ(node.x, 11.5);
-    EXPECT_EQ(node.y, 19.5);
-    EXPECT_EQ(node.net, 1);
-    EXPECT_EQ(node.label, "1");
-    EXPECT_EQ(node.mirrored, 0);
-    EXPECT_EQ(node.contact, 1);
-    EXPECT_EQ(node.rotation, 20.0);
-    EXPECT_EQ(node.padStack, g_model.g_padStacks.Find("SMD"));
-    EXPECT_EQ(pin.nodeId, "0");
-    EXPECT_EQ(pin.hasNode, 1u);
-    EXPECT_EQ(pin.padStack, g_model.g_padStacks.Find("SMD"));
-    EXPECT_TRUE(g_model.g_aVias.empty());
-}
-
-TEST_F(PlacePinsTest, BottomPinIsMirroredInXAndLiesOnTheBottomConductor) {
-    ComponentRec& c = Part("C2", 0.0, "%bottomplace ");
-    AddPin(c, "2", "SMD", "N1", 1.5, -0.5, 0.0);
-    ASSERT_EQ(PlacePins(), 1);
-    const NodeRec& node = OnlyNode();
-    EXPECT_EQ(node.layer, 2);
-    EXPECT_EQ(node.x, 8.5);
-    EXPECT_EQ(node.y, 19.5);
-    EXPECT_EQ(node.mirrored, 1);
+// Components at (10, 20) and their pins, one a line: "part DESIGNATOR ROTATION PLACEMENT"
+// and "pin NAME PADSTACK NET X Y ROTATION" ("-" for no net); "nonet" includes no-net
+// elements, "area" limits the work to 0..30 mm. Expected: what Placed() shows.
+TEST_F(PlacePinsTest, PinsGiveTheseNodesAndVias) {
+    for (const DataCase& c : DataCases("ibis/PlacePins/Pins.txt")) {
+        SetUp();
+        for (const std::string& arg : c.args) {
+            if (arg == "nonet") g_options.g_nIncludeNoNetEtches = 1;
+            if (arg == "area") g_options.g_bSpatialLimit = 1;
+        }
+        g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 30.0;
+        ComponentRec* part = nullptr;
+        for (const std::string& line : SplitLines(c.input)) {
+            std::istringstream words(line);
+            std::string kind, name, word;
+            double x = 0, y = 0, rotation = 0;
+            words >> kind >> name;
+            if (kind == "part") {
+                words >> rotation >> word;
+                part = &Part(name, rotation, word == "-" ? "" : "%" + word + " ");
+            } else {
+                std::string net;
+                words >> word >> net >> x >> y >> rotation;
+                AddPin(*part, name, word, net == "-" ? "" : net, x, y, rotation);
+            }
+        }
+        ASSERT_EQ(PlacePins(), 1) << c.title;
+        EXPECT_EQ(Placed(), c.expected) << c.title;
+    }
 }
 
 TEST_F(PlacePinsTest, RotationsAreReducedByTheirOddRule) {
@@ -98,55 +127,11 @@ TEST_F(PlacePinsTest, RotationsAreReducedByTheirOddRule) {
     for (const auto& sum : sums) {
         ResetGlobals();
         SetUp();
-        ComponentRec& c = Part("R1", sum[0], "%topplace ");
-        AddPin(c, "1", "SMD", "N1", 0.0, 0.0, 0.0);
+        AddPin(Part("R1", sum[0], "%topplace "), "1", "SMD", "N1", 0.0, 0.0, 0.0);
         PlacePins();
-        EXPECT_EQ(OnlyNode().rotation, sum[1]) << sum[0];
+        ASSERT_EQ(g_model.g_setNodes.size(), 1u);
+        EXPECT_EQ(g_model.g_setNodes.begin()->rotation, sum[1]) << sum[0];
     }
-}
-
-TEST_F(PlacePinsTest, DrilledPinAddsAViaThroughTheStackWithItsDrill) {
-    g_options.g_nIncludeNoNetEtches = 1;
-    ComponentRec& c = Part("J1", 0.0, "%topplace ");
-    AddPin(c, "1", "TH_1", "N1", 0.0, 0.0, 90.0);
-    AddPin(c, "2", "TH_1", "%no_connect", 2.54, 0.0, 0.0);
-    ASSERT_EQ(PlacePins(), 1);
-    ASSERT_EQ(g_model.g_aVias.size(), 2u);
-    const ViaRec& a = g_model.g_aVias[0];
-    EXPECT_EQ(a.x, 10.0);
-    EXPECT_EQ(a.startLayer, 0);
-    EXPECT_EQ(a.endLayer, 2);
-    EXPECT_EQ(a.net, 0);
-    EXPECT_EQ(a.noContact, 0);
-    EXPECT_EQ(a.rotation, 90.0);
-    EXPECT_EQ(a.padStack, g_model.g_padStacks.Find("TH_1"));
-    ASSERT_EQ(g_model.g_aDrillRadii.size(), 1u);
-    EXPECT_EQ(g_model.g_aDrillRadii[a.drillIndex].radius, 0.15);
-    EXPECT_EQ(g_model.g_padStacks.Find("TH_1")->drill, 0.15);
-    const ViaRec& b = g_model.g_aVias[1];
-    EXPECT_EQ(b.net, kNoNet);
-    EXPECT_EQ(b.noContact, 1);
-    // The no-connect pin still has its node, with no net.
-    EXPECT_EQ(g_model.g_setNodes.size(), 2u);
-}
-
-TEST_F(PlacePinsTest, PinsWithoutNetPadstackOrPlaceAreSkipped) {
-    ComponentRec& c = Part("U1", 0.0, "%topplace ");
-    PinRec& noNet = AddPin(c, "1", "SMD", "", 0.0, 0.0, 0.0);
-    PinRec& noConnect = AddPin(c, "2", "SMD", "%no_connect", 1.0, 0.0, 0.0);
-    PinRec& unknownPad = AddPin(c, "3", "NOPE", "N1", 2.0, 0.0, 0.0);
-    PinRec& far = AddPin(c, "4", "SMD", "N1", 50.0, 0.0, 0.0);
-    ComponentRec& unplaced = Part("U2", 0.0, "");
-    AddPin(unplaced, "1", "SMD", "N1", 0.0, 0.0, 0.0);
-    g_options.g_bSpatialLimit = 1;
-    g_model.g_dbWorkMinX = g_model.g_dbWorkMinY = 0.0;
-    g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 30.0;
-    ASSERT_EQ(PlacePins(), 1);
-    EXPECT_TRUE(g_model.g_setNodes.empty());
-    EXPECT_EQ(noNet.hasNode, 0u);
-    EXPECT_EQ(noConnect.hasNode, 0u);
-    EXPECT_EQ(unknownPad.padStack, nullptr);
-    EXPECT_EQ(far.nodeId, "");
 }
 
 TEST_F(PlacePinsTest, AStackWithADielectricOnTopRunsFromOneToTheLastButOne) {

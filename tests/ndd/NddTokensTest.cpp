@@ -8,82 +8,75 @@
 
 namespace {
 
-std::vector<std::string> Tokens(const std::string& line, int count, bool cut = true) {
-    std::vector<std::string> out;
-    for (int i = 1; i <= count; ++i) out.push_back(NddToken(line, i, cut));
-    return out;
+// One call: the text, the position before, whether a glued ";" is cut; then the token, the
+// position after as the remainder of the text from it ("@N" for a position left at N, "@none"
+// for no position).
+TEST(NddGetToken, OneCall) {
+    const struct {
+        const char* text;
+        int from;
+        bool cut;
+        const char *token, *rest;
+    } rows[] = {
+        {"10;\n", kNoPosition, true, "10", ""},
+        {"10;\n", kNoPosition, false, "10;", ""},
+        // After a lone ";" the position is none, and the remainder is the whole text again.
+        {"; 5 6\n", 7, true, "", "@none"},
+        {"\"N1\";\n", kNoPosition, true, "\"N1\"", ";\n"},
+        {"", 42, true, "", "@42"},
+        {"\nabc", 42, true, "", "@42"},
+    };
+    for (const auto& row : rows) {
+        int pos = row.from;
+        const std::string token = NddGetToken(row.text, pos, row.cut);
+        const std::string rest = pos == row.from      ? "@" + std::to_string(pos)
+                                 : pos == kNoPosition ? "@none"
+                                                      : Mid(row.text, pos);
+        EXPECT_EQ(token + "|" + rest, std::string(row.token) + "|" + row.rest) << row.text;
+    }
+    EXPECT_EQ(Mid("; 5 6\n", kNoPosition), "; 5 6\n");
 }
 
-TEST(NddGetToken, QuotedTokenKeepsBlanksAndQuotesUntilStripped) {
-    std::string line = "%via \"A B\" 10 20 0 \"top\" \"bottom\" \"N1\";\n";
-    EXPECT_EQ(Tokens(line, 9), (std::vector<std::string>{"%via", "\"A B\"", "10", "20", "0",
-                                                         "\"top\"", "\"bottom\"", "\"N1\"", ""}));
-    EXPECT_EQ(StripQuotes(NddToken(line, 2)), "A B");
-}
-
-TEST(NddGetToken, GluedSemicolonIsCutUnlessKept) {
-    int pos = kNoPosition;
-    EXPECT_EQ(NddGetToken("10;\n", pos), "10");
-    EXPECT_EQ(Mid("10;\n", pos), "");
-    pos = kNoPosition;
-    EXPECT_EQ(NddGetToken("10;\n", pos, false), "10;");
-}
-
-TEST(NddGetToken, LoneSemicolonIsNoTokenAndEmptiesEveryLaterField) {
-    int pos = 7;
-    EXPECT_EQ(NddGetToken("; 5 6\n", pos), "");
-    EXPECT_EQ(pos, kNoPosition);
-    // After the lone ";" the remainder is the whole text again, so it is found once more.
-    EXPECT_EQ(Mid("; 5 6\n", pos), "; 5 6\n");
-    EXPECT_EQ(Tokens("%x 1 ; 2 3\n", 5), (std::vector<std::string>{"%x", "1", "", "", ""}));
-}
-
-TEST(NddGetToken, QuoteFollowedBySemicolonLeavesItInTheRemainder) {
-    int pos = kNoPosition;
-    std::string text = "\"N1\";\n";
-    EXPECT_EQ(NddGetToken(text, pos), "\"N1\"");
-    EXPECT_EQ(Mid(text, pos), ";\n");
-}
-
-TEST(NddGetToken, EmptyTextOrLeadingLineFeedLeavesPositionAlone) {
-    int pos = 42;
-    EXPECT_EQ(NddGetToken("", pos), "");
-    EXPECT_EQ(pos, 42);
-    EXPECT_EQ(NddGetToken("\nabc", pos), "");
-    EXPECT_EQ(pos, 42);
-}
-
-TEST(NddGetToken, UnclosedQuoteRunsToTheEndAndCarriageReturnSeparatesNothing) {
-    EXPECT_EQ(NddToken("%x \"open ended\n", 2), "\"open ended\n");
-    EXPECT_EQ(NddToken("a\rb c", 1), "a\rb");
-    EXPECT_EQ(NddToken("\t a\tb", 2), "b");
+// A line and its first tokens, each ended by "|".
+TEST(NddToken, Lines) {
+    const struct {
+        const char* line;
+        int count;
+        const char* tokens;
+    } rows[] = {
+        // Quoted tokens keep their blanks and quotes until they are stripped.
+        {"%via \"A B\" 10 20 0 \"top\" \"bottom\" \"N1\";\n", 9,
+         "%via|\"A B\"|10|20|0|\"top\"|\"bottom\"|\"N1\"||"},
+        // A lone ";" is no token and empties every later field.
+        {"%x 1 ; 2 3\n", 5, "%x|1||||"},
+        // An unclosed quote runs to the end; a carriage return separates nothing.
+        {"%x \"open ended\n", 2, "%x|\"open ended\n|"},
+        {"a\rb c", 1, "a\rb|"},
+        {"\t a\tb", 2, "a|b|"},
+    };
+    for (const auto& row : rows) {
+        std::string got;
+        for (int i = 1; i <= row.count; ++i) got += NddToken(row.line, i) + "|";
+        EXPECT_EQ(got, row.tokens) << row.line;
+    }
 }
 
 TEST(NddStripQuotes, Rules) {
-    auto strip = [](std::string s) { return StripQuotes(s); };
-    EXPECT_EQ(strip("\"abc\""), "abc");
-    EXPECT_EQ(strip("\"N1\";\n"), "N1");  // a line feed at the end takes three characters
-    EXPECT_EQ(strip("abc\""), "abc");
-    EXPECT_EQ(strip("abc"), "abc");
-    EXPECT_EQ(strip(""), "");
-    EXPECT_EQ(strip("\""), "");
-    EXPECT_EQ(strip("\"\n"), "");
+    // A line feed at the end takes three characters.
+    const char* rows[][2] = {
+        {"\"abc\"", "abc"}, {"\"N1\";\n", "N1"}, {"abc\"", "abc"}, {"abc", "abc"},
+        {"", ""},           {"\"", ""},          {"\"\n", ""}};
+    for (const auto& row : rows) EXPECT_EQ(StripQuotes(row[0]), row[1]) << row[0];
 }
 
 TEST(LineStream, LongLinesArriveInPiecesOfTheBufferLessOne) {
     std::string text(5000, 'x');
     text += "\nend\n";
     base::LineStream s(std::make_shared<const std::string>(text));
-    std::string piece;
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, std::string(2047, 'x'));
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, std::string(2047, 'x'));
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, std::string(906, 'x') + "\n");
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, "end\n");
-    EXPECT_FALSE(s.ReadLine(piece, base::kNddLineBuffer));
+    std::vector<std::string> pieces;
+    for (std::string piece; s.ReadLine(piece, base::kNddLineBuffer);) pieces.push_back(piece);
+    EXPECT_EQ(pieces, (std::vector<std::string>{std::string(2047, 'x'), std::string(2047, 'x'),
+                                                std::string(906, 'x') + "\n", "end\n"}));
 }
 
 TEST(LineStream, CarriageReturnBeforeLineFeedIsDroppedOthersStay) {
@@ -94,11 +87,9 @@ TEST(LineStream, CarriageReturnBeforeLineFeedIsDroppedOthersStay) {
 TEST(LineStream, PieceIsCutAtNulButPositionMovesOn) {
     std::string text("ab\0cd\nef\n", 9);
     base::LineStream s(std::make_shared<const std::string>(text));
-    std::string piece;
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, "ab");
-    ASSERT_TRUE(s.ReadLine(piece, base::kNddLineBuffer));
-    EXPECT_EQ(piece, "ef\n");
+    std::vector<std::string> pieces;
+    for (std::string piece; s.ReadLine(piece, base::kNddLineBuffer);) pieces.push_back(piece);
+    EXPECT_EQ(pieces, (std::vector<std::string>{"ab", "ef\n"}));
 }
 
 TEST(NddNextWord, GoesOnAcrossLinesSkippingCommentsAndStopsAtAnEmptyLine) {

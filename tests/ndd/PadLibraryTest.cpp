@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "DataCases.h"
 #include "TestSupport.h"
 #include "model/LayoutModel.h"
 #include "ndd/LayerStack.h"
@@ -92,76 +93,14 @@ TEST_F(PadLibraryTest, PadLibraryShapes) {
     EXPECT_EQ(g_model.g_padLibrary.Size(), 6u);
 }
 
-// Each row: the padstack records after the library, and the padstacks they give.
+// Padstack records after the library, and the padstacks they give (see the data file).
 TEST_F(PadLibraryTest, PadStackRecords) {
-    const struct {
-        const char* what;
-        std::string records;
-        std::vector<const char*> keys;
-        std::vector<std::string> stacks;
-    } rows[] = {
-        {"entries, pads and the drill radius; an oval is no antipad, an unknown pad none",
-         "%padstackdef \"V 1\" %padstacktype %THRUHOLE\n%drill 0.3;\n%liblayer \"top\"\n"
-         "%pad 0 0 \"C50\";\n%antipad 0 0 \"OX\";\n%thermalpad 0 0 \"C50\";\n"
-         "%liblayer \"%bottompad\" %pad 0.1 0\n \"R\";\n"
-         "%liblayer \"GHOST\" %pad 0 0 \"MISSING\";\n%end_padstackdef;\n",
-         {"V_1"},
-         {"V_1 t2 d0.15 def0 L-1 offset | TOP(top,C50,OX) CIRCLE 0.5x0.5@0,0 / - / - "
-          "| BOT(%bottompad,R,) RECTANGLE -0.6x-0.3@0.1,0 / - / - "
-          "| (GHOST,MISSING,) - / - / -"}},
-        {"a power entry takes its first pad as antipad; an offset antipad marks the padstack "
-         "but is never offset itself",
-         "%padstackdef \"PWR\"\n%liblayer \"POWER\"\n%pad 0 0 \"C50\";\n%pad 0 0 \"R\";\n"
-         "%end_padstackdef\n"
-         "%padstackdef \"ANTI\"\n%liblayer \"TOP\"\n%antipad 0.2 0 \"R\";\n%end_padstackdef\n",
-         {"PWR", "ANTI"},
-         {"PWR t0 d-1 def1 L-1 | %defaultliblayer(%defaultliblayer,R,C50) RECTANGLE -0.6x-0.3@0,0 "
-          "/ "
-          "CIRCLE 0.5x0.5@0,0 / -",
-          "ANTI t0 d-1 def0 L-1 offset | TOP(TOP,,R) - / RECTANGLE -0.6x-0.3@0,0 / -"}},
-        {"a default entry is overwritten by later layer words; a drill after it makes an "
-         "untyped padstack a through hole",
-         "%padstackdef \"D\"\n%defaultliblayer\n%pad 0 0 \"C50\";\n%drill 0.2\n"
-         "%liblayer \"TOP\"\n%pad 0 0 \"R\";\n%end_padstackdef\n",
-         {"D"},
-         {"D t2 d0.1 def1 L-1 | TOP(TOP,R,) RECTANGLE -0.6x-0.3@0,0 / - / -"}},
-        {"an unknown layer word leaves the default entry as it was",
-         "%padstackdef \"D\"\n%liblayer \"%ALL_LAYERS\"\n%pad 0 0 \"C50\";\n"
-         "%liblayer \"NOWHERE\"\n%end_padstackdef\n",
-         {"D"},
-         {"D t0 d-1 def1 L-1 | %defaultliblayer(NOWHERE,C50,) CIRCLE 0.5x0.5@0,0 / - / -"}},
-        {"inline boundaries: a path is no inline shape, nor is a polygon an antipad",
-         "%padstackdef \"IN\"\n%liblayer \"%toppad\"\n"
-         "%pad 0 0 %begin_boundary %outline %polygon 0 0 1 0 1 1; %end_boundary;\n"
-         "%antipad 0 0 %begin_boundary %outline %circle 0 0 0.8; %end_boundary;\n"
-         "%liblayer \"BOT\"\n%pad 0 0 %begin_boundary %outline %line 0 0 1 1 %end_boundary;\n"
-         "%antipad 0 0 %begin_boundary %outline %polygon 0 0 1 0 1 1; %end_boundary;\n"
-         "%end_padstackdef\n",
-         {"IN"},
-         {"IN t0 d-1 def0 L-1 | TOP(%toppad,,) POLYGON 0x0@0,0 0,0 1,0 1,1 / CIRCLE "
-          "0.8x0.8@0,0 / - | BOT(BOT,,) - / - / -"}},
-        {"a record cut off by the end of the file ends cleanly",
-         "%padstackdef \"CUT\"\n%liblayer \"TOP\"\n%pad 0 0 %begin_boundary %outline "
-         "%polygon 0 0 1",
-         {"CUT"},
-         {"CUT t0 d-1 def0 L-1 | TOP(TOP,,) POLYGON 0x0@0,0 0,0 / - / -"}},
-        {"a blank line inside a record ends the pass",
-         "%padstackdef \"A\"\n%liblayer \"TOP\"\n\n%pad 0 0 \"C50\";\n%end_padstackdef\n"
-         "%padstackdef \"B\"\n%end_padstackdef\n",
-         {"A", "B"},
-         {"A t0 d-1 def0 L-1 | TOP(TOP,,) - / - / -", "none"}},
-        {"the pass stops at the next section",
-         "%padstackdef \"A\"\n%end_padstackdef\n%packagedef \"PKG\"\n"
-         "%padstackdef \"LATE\"\n%end_padstackdef\n",
-         {"A", "LATE"},
-         {"A t0 d-1 def0 L-1", "none"}},
-    };
-    for (const auto& row : rows) {
+    for (const DataCase& c : DataCases("ndd/PadLibrary/PadStackRecords.txt")) {
         SetUp();
-        Load(row.records);
-        std::vector<std::string> got;
-        for (const char* key : row.keys) got.push_back(Stack(key));
-        EXPECT_EQ(got, row.stacks) << row.what;
+        Load(c.input);
+        std::string got;
+        for (const std::string& key : c.args) got += Stack(key) + "\n";
+        EXPECT_EQ(got, c.expected) << c.title;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/GapStrokes.h"
@@ -36,73 +37,21 @@ class ShapeRecords : public ::testing::Test {
 };
 
 // Shape records as read, before any clean-up: the text after the common head, and the shapes
-// it gives (see ShapesAsText). Nets sort: GND 0, VCC 1; layers TOP 0, GND 1.
+// it gives (see ShapesAsText). Arguments: "nonet" for no-net elements, "onlyvcc" for a
+// selection of VCC alone.
 TEST_F(ShapeRecords, RecordsGiveTheseShapes) {
-    const std::string fill = "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%outline\n";
-    const struct {
-        const char* what;
-        std::string body, shapes;
-    } rows[] = {
-        {"a circle's size loses its last three characters",
-         "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%circle 0 0 100 ;\n"
-         "%cutout\n%circle 1 2 100;\n%end_boundary\n",
-         "L0 N0 C+ 0,0 100,100\nL0 N0 C- 1,2 10,10\n"},
-        {"a fill without boundary covers the board outline",
-         "%fill_area \"GND\" \"GND\";\n\n%fill_area \"TOP\" \"VCC\";\n%fill_area \"GND\" "
-         "\"VCC\";\n",
-         "L1 N0 P+ 0,0 0,50 100,50 100,0 0,0\nL0 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"
-         "L1 N1 P+ 0,0 0,50 100,50 100,0 0,0\n"},
-        {"a polygon runs over lines and ends at a lone semicolon line",
-         fill + "%polygon 0 0 10 0\n10 10 0\n10 ;\n%cutout\n%rectangle 2 3 4 5;\n%end_boundary\n",
-         "L0 N1 P+ 0,0 10,0 10,10 0,10 0,0\nL0 N1 P- 2,3 2,5 4,5 4,3 2,3\n"},
-        {"a polygon cut off by the end of the file keeps what it read",
-         fill + "%polygon 0 0 10 0\n10 10 7", "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
-        {"a line path looks ahead and leaves the cutout to be read",
-         fill +
-             "%line 0 0 10 0;\n%arc 10 0 12 5 10 10;\n%line 10 10 0 0;\n%cutout\n%circle 5 5 2 ;\n"
-             "%end_boundary\n",
-         "L0 N1 P+ 0,0 10,0 10,0 12,5 10,10 10,10 0,0 0,0\nL0 N1 C- 5,5 2,2\n"},
-        {"a keyhole polygon splits on its repeated points",
-         fill + "%polygon 0 0 10 0 10 10 0 10 0 5 3 5 3 7 7 7 7 3 3 3 3 5 0 5;\n%end_boundary\n",
-         "L0 N1 Ps 3,5 3,7 7,7 7,3 3,3 3,5\nL0 N1 P+ 0,0 10,0 10,10 0,10 0,5 0,0\n"},
-        {"repeated neighbour points merge, numbers read without case",
-         fill + "%polygon 0 0 1e1 0 1E1 0 10 10;\n%end_boundary\n",
-         "L0 N1 P+ 0,0 10,0 10,10 0,0\n"},
-        {"a fill without a net is passed over",
-         "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
-         "1;\n%end_boundary\n",
-         ""},
-        {"an unknown layer gives layer -1",
-         "%fill_area \"NOPE\" \"VCC\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
-         "1;\n%end_boundary\n",
-         "L-1 N1 P+ 0,0 0,1 1,1 1,0 0,0\n"},
-    };
-    for (const auto& row : rows) {
+    for (const testing_support::DataCase& c :
+         testing_support::DataCases("ndd/ShapeRecords/Records.txt")) {
         SetUp();
-        Read(row.body);
-        EXPECT_EQ(ShapesAsText(), row.shapes) << row.what;
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("onlyvcc")) {
+            g_options.g_nSelectedNetCount = 1;
+            g_options.g_pSelectedNets = {1};
+            SetNetSelectionMode();
+        }
+        Read(c.input);
+        EXPECT_EQ(ShapesAsText(), c.expected) << c.title;
     }
-}
-
-TEST_F(ShapeRecords, FillsWithoutANetWithTheNoNetOption) {
-    g_options.g_nIncludeNoNetEtches = 1;
-    Read(
-        "%fill_area \"TOP\" \"\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 "
-        "1;\n%end_boundary\n");
-    EXPECT_EQ(ShapesAsText(), "L0 N" + std::to_string(kNoNet) + " P+ 0,0 0,1 1,1 1,0 0,0\n");
-}
-
-TEST_F(ShapeRecords, FillOfAnUnselectedNetIsPassedOverWithItsVoids) {
-    g_options.g_nSelectedNetCount = 1;
-    g_options.g_pSelectedNets = {1};  // VCC
-    SetNetSelectionMode();
-    Read(
-        "# Board Geometry section.\n"
-        "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%rectangle 0 0 1 1;\n"
-        "%cutout\n%circle 0 0 1 ;\n%end_boundary\n"
-        "%fill_area \"TOP\" \"VCC\";\n%begin_boundary\n%cutout\n%circle 5 5 2 ;\n"
-        "%end_boundary\n");
-    EXPECT_EQ(ShapesAsText(), "L0 N1 C- 5,5 2,2\n");
 }
 
 TEST_F(ShapeRecords, RoundLineGoesRoundBothEnds) {

@@ -18,35 +18,11 @@ namespace {
 // Fill records cut and mixed at random, with numbers that are no numbers: the pass and the
 // clean-up round must finish without a fault whatever the order of the pieces.
 TEST(ShapeRobustness, ScrambledFillRecordsNeverCrashOrHang) {
-    const char* pieces[] = {"%fill_area \"TOP\" \"GND\";\n",
-                            "%fill_area \"GND\" \"VCC\"\n",
-                            "%fill_area\n",
-                            "%begin_boundary\n",
-                            "%end_boundary\n",
-                            "%outline\n",
-                            "%cutout\n",
-                            "%circle 1 2 3 ;\n",
-                            "%circle 1;\n",
-                            "%circle\n",
-                            "%rectangle 0 0 10 10;\n",
-                            "%rectangle 5;\n",
-                            "%polygon 0 0 10 0 10 10 0 10 0 0 ;\n",
-                            "%polygon 0 0 10 0\n",
-                            "%polygon ;\n",
-                            "%polygon 1 1 1 1 1 1 2 2 1 1 2 2 3 3 2 2;\n",
-                            "%round_endpoint_line 0 0 10 0 2;\n",
-                            "%round_endpoint_line 0 0 0 0 0;\n",
-                            "%round_endpoint_line 0 0 10 0 -4;\n",
-                            "%line 0 0 10 0;\n",
-                            "%arc 10 0 12 5 10 10;\n",
-                            "%line nan 0 inf 1e308;\n",
-                            "%polygon nan nan inf -inf 1e308 1e308 -1e308 5;\n",
-                            "\n",
-                            "# comment\n",
-                            ";\n",
-                            "7 7 8;\n"};
+    // One piece a line (an empty line is a piece too).
+    const std::vector<std::string> pieces =
+        testing_support::SplitLines(testing_support::DataFile("ndd/ShapeRobustness/pieces.ndd"));
     std::mt19937 rng(12345);
-    std::uniform_int_distribution<size_t> pick(0, sizeof pieces / sizeof pieces[0] - 1);
+    std::uniform_int_distribution<size_t> pick(0, pieces.size() - 1);
     testing_support::ScratchDir dir;
     for (int round = 0; round < 40; ++round) {
         testing_support::ResetGlobals();
@@ -55,7 +31,7 @@ TEST(ShapeRobustness, ScrambledFillRecordsNeverCrashOrHang) {
         g_model.g_dbLengthScale = 1.0;
         g_options.g_nIncludeNoNetEtches = round % 2;
         std::string text = "%board_outline\n%polygon 0 0 50 0 50 50;\n%port \"A\" \"GND\";\n";
-        for (int k = 0; k < 60; ++k) text += pieces[pick(rng)];
+        for (int k = 0; k < 60; ++k) text += pieces[pick(rng)] + "\n";
         if (round % 3 == 0)
             text += "%fill_area \"TOP\" \"GND\";\n%begin_boundary\n%outline\n%polygon 1 2";
         std::string path = dir.Write("r" + std::to_string(round) + ".ndd", text);

@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <cstdio>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "TestSupport.h"
 #include "geometry/PointOnNetShape.h"
@@ -15,6 +16,9 @@
 
 namespace {
 
+using testing_support::DataCase;
+using testing_support::DataCases;
+using testing_support::Exact;
 using testing_support::ScratchDir;
 
 constexpr int32_t kGnd = 0;
@@ -47,106 +51,55 @@ class ThermalTiesTest : public ::testing::Test {
         return ParseThermalTies();
     }
 
-    // The far end of trace t, where the tie reaches.
-    static std::pair<double, double> TieEnd(size_t t) {
-        RebuildNodeArray();
-        RebuildNodeIndex();
-        const NodeRec* node = NodeById(g_model.g_aTraces[t].endNode);
-        return {node->x, node->y};
-    }
-
     ScratchDir dir_;
 };
 
-const char kType[] = "TTT T1 200 3 4 0.5\n";
-
-TEST_F(ThermalTiesTest, MaskFiveAtAngleZeroTriesRightThenLeft) {
-    Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
-    SortShapes();
-    EXPECT_EQ(Read(std::string(kType) + "ARS \"GND\" \"2\"\nTTI 5000 5000 T1 0 1000 2000 5\n"), 1);
-    ASSERT_EQ(g_model.g_aTraces.size(), 2u);
-    EXPECT_EQ(TieEnd(0), std::make_pair(6.0, 5.0));  // bit 1: (x+w, y)
-    EXPECT_EQ(TieEnd(1), std::make_pair(4.0, 5.0));  // bit 4: (x-w, y)
-    const TraceRec& tie = g_model.g_aTraces[0];
-    EXPECT_EQ(tie.width, 200 * 0.001);
-    EXPECT_EQ(tie.layer, kGndLayer);
-    EXPECT_EQ(tie.color, 1);
-    EXPECT_EQ(g_model.g_aTraceNets[0], kGnd);
-    EXPECT_EQ(g_model.g_aTraceFlags[0], 0);
-    EXPECT_EQ(g_model.g_aLayers[kGndLayer].kind, kLayerSignal);
-    const ThermalTieTypeRec* type = g_model.g_mapThermalTieTypes.Find("T1");
-    ASSERT_NE(type, nullptr);
-    EXPECT_EQ(type->nValue1, 3);
-    EXPECT_EQ(type->nValue2, 4);
-    EXPECT_EQ(type->dbValue, 0.5);
+// Each tie as "x,y wWIDTH LLAYER cCOLOUR NET fFLAGS" at the far end, where it reaches; then
+// the kind of the GND layer and the tie types read.
+std::string TiesText() {
+    RebuildNodeArray();
+    RebuildNodeIndex();
+    std::string t;
+    for (size_t i = 0; i < g_model.g_aTraces.size(); ++i) {
+        const TraceRec& tie = g_model.g_aTraces[i];
+        const NodeRec* end = NodeById(tie.endNode);
+        t += Exact(end->x) + "," + Exact(end->y) + " w" + Exact(tie.width) + " L" +
+             std::to_string(tie.layer) + " c" + std::to_string(tie.color) + " " +
+             g_model.g_strNetNames[g_model.g_aTraceNets[i]].name + " f" +
+             std::to_string(g_model.g_aTraceFlags[i]) + "\n";
+    }
+    t += std::string("GND ") +
+         (g_model.g_aLayers[kGndLayer].kind == kLayerPlane ? "plane" : "signal");
+    for (const std::string& key : g_model.g_mapThermalTieTypes.Keys()) {
+        const ThermalTieTypeRec* type = g_model.g_mapThermalTieTypes.Find(key);
+        t += " " + key + ":" + std::to_string(type->nValue1) + "," + std::to_string(type->nValue2) +
+             "," + Exact(type->dbValue);
+    }
+    return t + "\n";
 }
 
-TEST_F(ThermalTiesTest, TieThatReachesNoCopperOfItsNetIsNotMade) {
-    Fill(0, 0, 5.5, 10, kGnd, kPolarityCopper);   // the right tie ends beyond this fill
-    Fill(5.5, 0, 10, 10, kVcc, kPolarityCopper);  // on copper of another net
-    SortShapes();
-    Read(std::string(kType) + "ARS GND 2\nTTI 5000 5000 T1 0 1000 2000 15\n");
-    ASSERT_EQ(g_model.g_aTraces.size(), 3u);
-    EXPECT_EQ(TieEnd(0), std::make_pair(5.0, 7.0));  // bit 2: (x, y+h)
-    EXPECT_EQ(TieEnd(1), std::make_pair(4.0, 5.0));  // bit 4
-    EXPECT_EQ(TieEnd(2), std::make_pair(5.0, 3.0));  // bit 8: (x, y-h)
-}
-
-TEST_F(ThermalTiesTest, AngleFortyFiveTriesOneEightTwoFour) {
-    Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
-    SortShapes();
-    Read(std::string(kType) + "ARS 'GND' '2'\nTTI 5000 5000 T1 45 1000 2000 15\n");
-    ASSERT_EQ(g_model.g_aTraces.size(), 4u);
-    const double dx = 1.0 / std::sqrt(2.0), dy = 2.0 / std::sqrt(2.0);
-    EXPECT_EQ(TieEnd(0), std::make_pair(5 + dx, 5 + dy));  // bit 1
-    EXPECT_EQ(TieEnd(1), std::make_pair(5 + dx, 5 - dy));  // bit 8
-    EXPECT_EQ(TieEnd(2), std::make_pair(5 - dx, 5 + dy));  // bit 2
-    EXPECT_EQ(TieEnd(3), std::make_pair(5 - dx, 5 - dy));  // bit 4
-}
-
-TEST_F(ThermalTiesTest, TieBeforeAnyAreaAddsNothingEvenWithNoNetElements) {
-    Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
-    SortShapes();
-    g_options.g_nIncludeNoNetEtches = 1;
-    Read(std::string(kType) + "TTI 5000 5000 T1 0 1000 2000 15\n");
-    EXPECT_TRUE(g_model.g_aTraces.empty());
-    EXPECT_EQ(g_model.g_aLayers[kGndLayer].kind, kLayerPlane);
-}
-
-TEST_F(ThermalTiesTest, LayerBecomesSignalBeforeAnyTieIsTried) {
-    SortShapes();  // no copper at all
-    Read(std::string(kType) + "ARS GND 2\nTTI 5000 5000 T1 0 1000 2000 0\n");
-    EXPECT_TRUE(g_model.g_aTraces.empty());
-    EXPECT_EQ(g_model.g_aLayers[kGndLayer].kind, kLayerSignal);
-}
-
-TEST_F(ThermalTiesTest, LinesPassedOverLeaveTheLayerAlone) {
-    Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
-    SortShapes();
-    Read(std::string(kType) +
-         "ARS GND 2\n"
-         "TTI 5000 5000 f 0 1000 2000 15\n"    // free type
-         "TTI 5000 5000 T1 30 1000 2000 15\n"  // angle neither 0 nor 45
-         "TTI 5000 5000 T9 0 1000 2000 15\n"   // unknown type
-         "ARS GND 7\n"                         // unknown layer identifier
-         "TTI 5000 5000 T1 0 1000 2000 15\n"
-         "ARS GND 1\n"
-         "TTI 5000 5000 T1 0 1000 2000 15\n");  // TOP has no copper
-    EXPECT_TRUE(g_model.g_aTraces.empty());
-    EXPECT_EQ(g_model.g_aLayers[kGndLayer].kind, kLayerPlane);
-}
-
-TEST_F(ThermalTiesTest, NetOutsideTheSelectionIsPassedOver) {
-    Fill(0, 0, 10, 10, kVcc, kPolarityCopper);
-    SortShapes();
-    g_options.g_bSelectedOnly = 1;
-    g_options.g_bAllNets = 0;
-    g_options.g_nSelectedNetCount = 1;
-    g_options.g_pSelectedNets = {kGnd};
-    g_options.g_aSortedSelectedNets = {kGnd};
-    Read(std::string(kType) + "ARS VCC 2\nTTI 5000 5000 T1 0 1000 2000 15\n");
-    EXPECT_TRUE(g_model.g_aTraces.empty());
-    EXPECT_EQ(g_model.g_aLayers[kGndLayer].kind, kLayerPlane);  // passed over before the layer
+// Trace files with thermal ties over the fills that the arguments name: "fill" a GND fill of
+// 0..10 mm on GND, "split" GND up to x 5.5 and VCC beyond, "vcc" a VCC fill; "nonet" the
+// no-net option, "onlygnd" a selection of GND alone.
+TEST_F(ThermalTiesTest, TieRecordsGiveTheseTies) {
+    for (const DataCase& c : DataCases("ndd/ThermalTies/Ties.txt")) {
+        SetUp();
+        if (c.Has("fill")) Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
+        if (c.Has("split")) Fill(0, 0, 5.5, 10, kGnd, kPolarityCopper);
+        if (c.Has("split")) Fill(5.5, 0, 10, 10, kVcc, kPolarityCopper);
+        if (c.Has("vcc")) Fill(0, 0, 10, 10, kVcc, kPolarityCopper);
+        SortShapes();
+        g_options.g_nIncludeNoNetEtches = c.Has("nonet");
+        if (c.Has("onlygnd")) {
+            g_options.g_bSelectedOnly = 1;
+            g_options.g_bAllNets = 0;
+            g_options.g_nSelectedNetCount = 1;
+            g_options.g_pSelectedNets = {kGnd};
+            g_options.g_aSortedSelectedNets = {kGnd};
+        }
+        EXPECT_EQ(Read(c.input), 1) << c.title;
+        EXPECT_EQ(TiesText(), c.expected) << c.title;
+    }
 }
 
 TEST_F(ThermalTiesTest, MissingOrEmptyFileIsPassedOverSilently) {
@@ -163,7 +116,7 @@ TEST_F(ThermalTiesTest, MalformedFilesEndQuietly) {
     Fill(0, 0, 10, 10, kGnd, kPolarityCopper);
     SortShapes();
     // A tie whose fields run out at the end of the file is not made.
-    Read(std::string(kType) + "ARS GND 2\nTTI 5000 5000 T1 0 1000");
+    Read("TTT T1 200 3 4 0.5\nARS GND 2\nTTI 5000 5000 T1 0 1000");
     EXPECT_TRUE(g_model.g_aTraces.empty());
     Read("TTT\nARS\nTTI\n");
     Read(std::string("TTT T1 200 3 4 0.5\nARS \"GND\n") + std::string("TTI \0\xff\x01\n", 8) +

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "DataCases.h"
 #include "Fixtures.h"
 #include "RecordingHost.h"
 #include "TestSupport.h"
@@ -23,65 +24,38 @@ void MakeBoard() {
     g_model.g_dbLengthScale = 1.0;
 }
 
-// Whole runs of the trace reader are in tests/data/cases (trace_*, arc_*).
-TEST(ParseTrace, LinesThatAreNotTraces) {
-    MakeBoard();
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "#%trace \"TOP\" 1 0 0 1 0 \"CLK\";\n"
-                                 " %trace \"TOP\" 1 0 0 1 0 \"CLK\";\n"
-                                 "%trace \"TOP\" 1 0 0 1 0 \"CLK\"; # Vias section.\n"
-                                 "%arc_trace \"TOP\" 1 0 0 1 1 2 0 \"CLK\";\n"
-                                 "%via \"V\" 0 0 0 \"CLK\";\n"
-                                 "\n"
-                                 "%traceX \"TOP\" 1 5 5 6 6 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    // Only the line whose first six characters are "%trace" is read.
-    ASSERT_EQ(g_model.TraceCount(), 1);
-    EXPECT_EQ(FindNode(0, 5.0, 5.0)->id, 0u);
+// The traces as "Llayer x,y-x,y wWIDTH".
+std::string TracesText() {
+    RebuildNodeArray();
+    RebuildNodeIndex();
+    std::string t;
+    for (const TraceRec& trace : g_model.g_aTraces) {
+        const NodeRec* a = NodeById(trace.startNode);
+        const NodeRec* b = NodeById(trace.endNode);
+        t += "L" + std::to_string(trace.layer) + " " + Exact(a->x) + "," + Exact(a->y) + "-" +
+             Exact(b->x) + "," + Exact(b->y) + " w" + Exact(trace.width) + "\n";
+    }
+    return t;
 }
 
-TEST(ParseTrace, TraceRuleEndsThePassOnlyAfterTheFirstTrace) {
-    MakeBoard();
+// Records read by the trace pass, then by the arc pass; the traces after each. "tn" reads in
+// TN with a work area of 0..100 mm. Whole runs of the trace reader are in tests/data/cases
+// (trace_*, arc_*).
+TEST(ParseTrace, RecordsGiveTheseTraces) {
     ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 "%tracerule \"CLK\" 1;\n"
-                                 "%trace \"TOP\" 1 0 0 1 0 \"CLK\";\n"
-                                 "%trace \"TOP\" 1 1 0 2 0 \"CLK\";\n"
-                                 "%tracerule \"CLK\" 1;\n"
-                                 "%trace \"TOP\" 1 2 0 3 0 \"CLK\";\n"
-                                 "%arc_trace \"TOP\" 1 5 0 6 1 7 0 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    EXPECT_EQ(g_model.TraceCount(), 2);
-    ASSERT_EQ(ParseArcTrace(path, 0), 1);  // an arc after the rule is read
-    EXPECT_EQ(g_model.TraceCount(), 4);
-}
-
-TEST(ParseTrace, SpatialRangeComparesTheFilesRawNumbers) {
-    MakeBoard();
-    g_model.g_dbLengthScale = 1e-5;  // TN
-    g_options.g_bSpatialLimit = 1;
-    g_model.g_dbWorkMinX = 0;
-    g_model.g_dbWorkMinY = 0;
-    g_model.g_dbWorkMaxX = 100;  // mm
-    g_model.g_dbWorkMaxY = 100;
-    ScratchDir dir;
-    std::string path = dir.Write("a.ndd",
-                                 // 0.5 mm to 0.6 mm: inside in mm, far outside as raw numbers
-                                 "%trace \"TOP\" 100 50000 50000 60000 60000 \"CLK\";\n"
-                                 // raw 50..60: inside, although it is only 0.0006 mm
-                                 "%trace \"TOP\" 100 50 50 60 60 \"CLK\";\n"
-                                 // one raw end inside keeps the trace
-                                 "%trace \"TOP\" 100 100 100 5000 5000 \"CLK\";\n"
-                                 "%trace \"TOP\" 100 5000 0 0 101 \"CLK\";\n"
-                                 "%arc_trace \"TOP\" 100 50000 0 60000 0 70000 0 \"CLK\";\n");
-    ASSERT_EQ(ParseTrace(path, 0), 1);
-    ASSERT_EQ(g_model.TraceCount(), 2);
-    EXPECT_EQ(g_model.g_aTraces[0].width, 100 * 1e-5);
-    EXPECT_NE(FindNode(0, 50 * 1e-5, 50 * 1e-5), nullptr);
-    EXPECT_NE(FindNode(0, 5000 * 1e-5, 5000 * 1e-5), nullptr);
-    ASSERT_EQ(ParseArcTrace(path, 0), 1);  // arcs are not filtered
-    EXPECT_EQ(g_model.TraceCount(), 4);
+    for (const DataCase& c : DataCases("ndd/TraceReader/Records.txt")) {
+        MakeBoard();
+        if (!c.args.empty()) {
+            g_model.g_dbLengthScale = 1e-5;
+            g_options.g_bSpatialLimit = 1;
+            g_model.g_dbWorkMaxX = g_model.g_dbWorkMaxY = 100;
+        }
+        const std::string path = dir.Write("a.ndd", c.input);
+        ASSERT_EQ(ParseTrace(path, 0), 1);
+        std::string got = "traces\n" + TracesText();
+        ASSERT_EQ(ParseArcTrace(path, 0), 1);
+        EXPECT_EQ(got + "arcs\n" + TracesText(), c.expected) << c.title;
+    }
 }
 
 TEST(ParseTrace, DialogRunMovesTheProgressBarEvery150Records) {

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
+#include "DataCases.h"
 #include "TestSupport.h"
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
@@ -9,52 +12,25 @@
 
 namespace {
 
+using testing_support::DataCase;
+using testing_support::DataCases;
 using testing_support::ResetGlobals;
 using testing_support::ScratchDir;
 
-class UnitsTest : public ::testing::Test {
-  protected:
-    void SetUp() override { ResetGlobals(); }
-    void Parse(const std::string& text) {
-        std::string path = dir.Write("u.ndd", text);
-        ForgetNddInput();
-        ParseUnits(path);
-    }
+// Unit lines and the scales they give (see the data file), starting from a length scale of 7.
+TEST(Units, LinesGiveTheseScales) {
     ScratchDir dir;
-};
-
-TEST_F(UnitsTest, LengthWordsAreLoweredAndLookedUp) {
-    const struct {
-        const char* word;
-        double mm;
-    } cases[] = {{"TN", 1e-5},  {"MIL", 0.0254}, {"inch", 25.4}, {"mm", 1.0},
-                 {"UM", 0.001}, {"m", 1000.0},   {"cm", 10.0}};
-    for (const auto& c : cases) {
+    for (const DataCase& c : DataCases("ndd/Units/Lines.txt")) {
+        ResetGlobals();
         g_model.g_dbLengthScale = 7.0;
-        Parse(std::string("%length ") + c.word + ";\n");
-        EXPECT_EQ(g_model.g_dbLengthScale, c.mm) << c.word;
+        ForgetNddInput();
+        ParseUnits(dir.Write("u.ndd", c.input));
+        char got[96];
+        std::snprintf(got, sizeof got, "length %.17g conductivity %.17g units %zu\n",
+                      g_model.g_dbLengthScale, g_model.g_dbConductivityScale,
+                      g_model.g_mapUnits.Size());
+        EXPECT_EQ(got, c.expected) << c.title;
     }
-    g_model.g_dbLengthScale = 7.0;
-    Parse("%length mils;\n");  // only "mil" is known: the scale stays
-    EXPECT_EQ(g_model.g_dbLengthScale, 7.0);
-}
-
-TEST_F(UnitsTest, ConductivityScaleOnlyAfterFiveUnitLines) {
-    Parse("%length mm;\n%resistance ohm;\n%capacitance pf;\n%inductance nh;\n");
-    EXPECT_EQ(g_model.g_dbLengthScale, 1.0);
-    EXPECT_EQ(g_model.g_dbConductivityScale, 1e8);
-    Parse("%length mm;\n%resistance ohm;\n%capacitance pf;\n%inductance nh;\n%voltage v;\n");
-    EXPECT_EQ(g_model.g_dbConductivityScale, 1000.0);
-    Parse("%length um;\n%resistance mohm;\n%capacitance pf;\n%inductance nh;\n%voltage v;\n");
-    EXPECT_EQ(g_model.g_dbConductivityScale, 1e6 / 0.001);
-    Parse("%length mm;\n%resistance uohm;\n%capacitance pf;\n%inductance nh;\n%voltage v;\n");
-    EXPECT_EQ(g_model.g_dbConductivityScale, 1e9);
-}
-
-TEST_F(UnitsTest, CommentsAndIndentedKeywordsAreNotUnitLines) {
-    Parse("#%length mm;\n %length mm;\n");
-    EXPECT_EQ(g_model.g_dbLengthScale, 1e-5);
-    EXPECT_TRUE(g_model.g_mapUnits.Empty());
 }
 
 class NetTableTest : public ::testing::Test {

@@ -41,24 +41,13 @@ double FromBits(uint64_t bits) {
 
 TEST(NumberText, MatchesSnprintfOnRandomAndEdgeValues) {
     std::mt19937_64 rng(17);
-    std::vector<double> values = {0.0,
-                                  -0.0,
-                                  1.0,
-                                  -1.5,
-                                  2.5,
-                                  0.5,
-                                  9.9999999999499,
-                                  9.99999999995,
-                                  999999.5,
-                                  std::numeric_limits<double>::max(),
-                                  std::numeric_limits<double>::min(),
-                                  std::numeric_limits<double>::denorm_min(),
-                                  -std::numeric_limits<double>::denorm_min(),
-                                  std::numeric_limits<double>::infinity(),
-                                  -std::numeric_limits<double>::infinity(),
-                                  std::numeric_limits<double>::quiet_NaN(),
-                                  -std::numeric_limits<double>::quiet_NaN(),
-                                  -1e38};
+    using limits = std::numeric_limits<double>;
+    // clang-format off
+    std::vector<double> values = {
+        0.0, -0.0, 1.0, -1.5, 2.5, 0.5, 9.9999999999499, 9.99999999995, 999999.5, -1e38,
+        limits::max(), limits::min(), limits::denorm_min(), -limits::denorm_min(),
+        limits::infinity(), -limits::infinity(), limits::quiet_NaN(), -limits::quiet_NaN()};
+    // clang-format on
     std::uniform_int_distribution<int64_t> digits11(10000000000LL, 99999999999LL);
     std::uniform_int_distribution<int64_t> digits7(1000000, 9999999);
     std::uniform_int_distribution<int64_t> small(-1000000000, 1000000000);

@@ -2,9 +2,8 @@
 // that expected.txt holds for it.
 #include <gtest/gtest.h>
 
-#include <dirent.h>
-
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -17,14 +16,8 @@ const std::string kData = QFXVIEW_TEST_DATA;
 
 std::vector<std::string> Decks() {
     std::vector<std::string> decks;
-    if (DIR* dir = opendir(kData.c_str())) {
-        while (dirent* entry = readdir(dir)) {
-            std::string name = entry->d_name;
-            if (name.size() > 4 && name.compare(name.size() - 4, 4, ".qfx") == 0)
-                decks.push_back(name);
-        }
-        closedir(dir);
-    }
+    for (const auto& e : std::filesystem::directory_iterator(kData))
+        if (e.path().extension() == ".qfx") decks.push_back(e.path().filename().string());
     std::sort(decks.begin(), decks.end());
     return decks;
 }

@@ -2,7 +2,7 @@
 // into statements.
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <QTemporaryFile>
 #include <string>
 
 #include "deck/Forms.h"
@@ -45,19 +45,14 @@ TEST(Forms, MatchFieldByField) {
 
 // Writes text to a temporary file and reads its statements back.
 std::vector<qfxview::Statement> StatementsOf(const std::string& text) {
-    char path[] = "/tmp/qfxview_forms_XXXXXX";
-    int fd = mkstemp(path);
-    FILE* f = fdopen(fd, "w");
-    std::fputs(text.c_str(), f);
-    std::fclose(f);
+    QTemporaryFile file;
+    file.open();
+    file.write(text.c_str());
+    file.flush();
+    qfxview::DeckLines lines(file.fileName().toStdString());
+    qfxview::StatementReader reader(lines);
     std::vector<qfxview::Statement> statements;
-    {
-        qfxview::DeckLines lines(path);
-        qfxview::StatementReader reader(lines);
-        qfxview::Statement s;
-        while (reader.Next(s)) statements.push_back(s);
-    }
-    std::remove(path);
+    for (qfxview::Statement s; reader.Next(s);) statements.push_back(s);
     return statements;
 }
 

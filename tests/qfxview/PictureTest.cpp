@@ -31,7 +31,7 @@ QRgb At(const QImage& image, int x, int y) {
     return image.pixel(x, y) & 0xffffff;
 }
 
-TEST(Picture, BoxVoidAndTraceInTheDecksColours) {
+TEST(Picture, BoxVoidAndTraceInTheDecksColoursAndStackBands) {
     QTemporaryDir dir;
     qfxview::PictureOptions options;
     options.width = 232;
@@ -47,18 +47,10 @@ TEST(Picture, BoxVoidAndTraceInTheDecksColours) {
     EXPECT_EQ(At(layer, 116, 16), 0x0000ffu);   // (5, 12): on the trace, the package's blue
     EXPECT_EQ(At(layer, 116, 36), 0xffffffu);   // (5, 11): between box and trace
     EXPECT_TRUE(QFileInfo(dir.filePath("layer-TOP.svg")).size() > 0);
-}
-
-TEST(Picture, StackBandsInLayerColours) {
-    QTemporaryDir dir;
-    qfxview::PictureOptions options;
-    options.width = 232;
-    std::string error;
-    qfxview::WritePictures(kDeck, Scan(), options, dir.path().toStdString(), error);
-    QImage stack(dir.filePath("stack.png"));
-    ASSERT_FALSE(stack.isNull()) << error;
-    // Bands from y 12: the top layer 22 + 40 * 0.035 / 0.2 = 29 pixels high, then the
+    // Stack bands from y 12: the top layer 22 + 40 * 0.035 / 0.2 = 29 pixels high, then the
     // dielectric; text stands at their left.
+    QImage stack(dir.filePath("stack.png"));
+    ASSERT_FALSE(stack.isNull());
     EXPECT_EQ(At(stack, 212, 16), 0x0000ffu);
     EXPECT_EQ(At(stack, 212, 60), 0xe6d8adu);
 }
