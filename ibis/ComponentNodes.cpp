@@ -139,15 +139,24 @@ bool ComponentNodes::NodeNetTaken(int32_t net) const {
 }
 
 // The position text of every pin that the binding step will look up, as "x#y#layer".
+namespace {
+
+// The position text of a pin that the binding step looks up; empty when it passes the pin over.
+std::string PinPlaceKey(const ComponentRec& c, const PinRec& pin) {
+    if (!c.isActive && pin.hasNode) return std::string();
+    double x = Contains(c.placement, "bottom") ? c.x - pin.x : c.x + pin.x;
+    return NodeKey(x, c.y + pin.y, c.layer);
+}
+
+}  // namespace
+
 std::unordered_set<std::string> ComponentNodes::PinPlaces() const {
     std::unordered_set<std::string> places;
     components->ForEach([&](const std::string&, ComponentRec& c) {
         TakePassiveForm(c);
-        bool bottom = Contains(c.placement, "bottom");
         for (const PinRec& pin : c.pins) {
-            if (!c.isActive && pin.hasNode) continue;
-            double x = bottom ? c.x - pin.x : c.x + pin.x;
-            places.insert(NodeKey(x, c.y + pin.y, c.layer));
+            std::string key = PinPlaceKey(c, pin);
+            if (!key.empty()) places.insert(std::move(key));
         }
     });
     return places;
@@ -213,11 +222,9 @@ void ComponentNodes::BindPinsToNodes(base::StringMap<ComponentRec*>& blockTable)
         ++number;
         if (log) std::fprintf(log, "%d] Component RefDes : %s ", number, c.refDes.c_str());
         TakePassiveForm(c);
-        bool bottom = Contains(c.placement, "bottom");
         for (PinRec& pin : c.pins) {
-            if (!c.isActive && pin.hasNode) continue;
-            double x = bottom ? c.x - pin.x : c.x + pin.x;
-            auto it = byKey.find(NodeKey(x, c.y + pin.y, c.layer));
+            const std::string key = PinPlaceKey(c, pin);
+            auto it = key.empty() ? byKey.end() : byKey.find(key);
             if (it == byKey.end()) continue;
             pin.nodeId = std::to_string(it->second.first);
             g_model.g_aNodes[it->second.second].label = pin.name;

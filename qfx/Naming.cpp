@@ -2,6 +2,7 @@
 
 #include "model/LayoutModel.h"
 #include "model/TranslationOptions.h"
+#include "qfx/NumberText.h"
 
 const std::string& Affix() {
     return g_options.g_strNameAffix;
@@ -15,6 +16,14 @@ std::string NetSuffix(int32_t net) {
 
 std::string PinLabelSuffix(const std::string& label) {
     return label.empty() ? std::string() : "!!" + label;
+}
+
+void AppendNodeName(std::string& out, int32_t id, const std::string& label, int32_t net) {
+    out += "Node";
+    out += Affix().c_str();
+    AppendInt(out, id);
+    if (!label.empty()) out.append("!!").append(label.c_str());
+    out += NetSuffix(net).c_str();
 }
 
 std::string TitleVersion(const std::string& productVersion) {

@@ -105,11 +105,8 @@ void WriteNodes(FILE* out) {
         const NodeRec& node = nodes[i];
         if (node.viaRefs == 0 && node.traceRefs == 0) continue;
         if (!PrintsForNet(node.net)) continue;
-        name.assign("Node");
-        name += Affix();
-        AppendInt(name, static_cast<int32_t>(node.id));
-        if (!node.label.empty()) name.append("!!").append(node.label);
-        name += NetSuffix(node.net);
+        name.clear();
+        AppendNodeName(name, static_cast<int32_t>(node.id), node.label, node.net);
         if (repeated[node.id] && !printed.insert(name).second) continue;
         WriteNodeLine(out, node, name, bottom, line);
     }

@@ -23,18 +23,13 @@ bool ReachesFile(const TraceRec& trace, int32_t net) {
 }
 
 // A node reference is spelt as the node's own line spells its name, with the node's net,
-// which may differ from the trace's. Appended in place: a board has two per trace.
+// which may differ from the trace's. A number with no node has no suffixes.
 void AppendNodeReference(std::string& line, int32_t id) {
     const NodeRec* node = NodeById(id);
-    line += "Node";
-    line += Affix().c_str();
-    AppendInt(line, id);
-    if (!node) return;
-    if (!node->label.empty()) {
-        line += "!!";
-        line += node->label.str().c_str();
-    }
-    line += NetSuffix(node->net).c_str();
+    if (node)
+        AppendNodeName(line, id, node->label, node->net);
+    else
+        AppendNodeName(line, id, std::string(), kNoNet);
 }
 
 }  // namespace

@@ -23,15 +23,6 @@ const char* ViaColor(int32_t net) {
     return name ? name : "red";
 }
 
-// "Node", affix, number, pin label and net suffix, as the node's own line names it.
-void AppendViaNode(std::string& line, const char* affix, uint32_t id, int32_t net) {
-    line += "Node";
-    line += affix;
-    AppendInt(line, static_cast<int>(id));
-    line += PinLabelSuffix(LabelOfNode(id)).c_str();
-    line += NetSuffix(net).c_str();
-}
-
 }  // namespace
 
 // "Via%s%d%s UpperNode = Node%s%d%s%s LowerNode = Node%s%d%s%s Color = %s", then
@@ -46,9 +37,9 @@ void WriteVias(FILE* out) {
         AppendInt(line, static_cast<int>(v.number));
         line += NetSuffix(v.net).c_str();
         line += " UpperNode = ";
-        AppendViaNode(line, affix, v.upperNode, v.upperNet);
+        AppendNodeName(line, static_cast<int>(v.upperNode), LabelOfNode(v.upperNode), v.upperNet);
         line += " LowerNode = ";
-        AppendViaNode(line, affix, v.lowerNode, v.lowerNet);
+        AppendNodeName(line, static_cast<int>(v.lowerNode), LabelOfNode(v.lowerNode), v.lowerNet);
         line += " Color = ";
         line += ViaColor(v.net);
         if (v.padStack) {
