@@ -29,6 +29,10 @@ const CellTable::List* CellTable::Find(uint64_t key) const {
     }
 }
 
+CellTable::List* CellTable::Find(uint64_t key) {
+    return const_cast<List*>(static_cast<const CellTable*>(this)->Find(key));
+}
+
 CellTable::List& CellTable::Get(uint64_t key) {
     // At most half the slots are used, so every probe meets a free slot.
     if (2 * (used_ + 1) > slots_.size()) Grow();

@@ -14,7 +14,9 @@ class CellTable {
     void Clear();
     // The list of key, or null when no list has that key.
     const List* Find(uint64_t key) const;
-    // The list of key, made empty when it has none.
+    List* Find(uint64_t key);
+    // The list of key, made empty when it has none. Making one may move every other list:
+    // pointers to lists last until the next Get.
     List& Get(uint64_t key);
 
   private:

@@ -54,11 +54,23 @@ std::vector<bool> MiddleLayers() {
     return wanted;
 }
 
+// Room that one via's walk fills and the next one's reuses.
+struct ViaScratch {
+    std::vector<double> radii;
+    std::vector<const NodeRec*> near;
+};
+
 // One via's walk down its layers.
 class ViaBuilder {
   public:
-    ViaBuilder(const ViaRec& via, ShapeLocator& locator, NodeGrid& grid, uint32_t& number)
-        : via_(via), locator_(locator), grid_(grid), number_(number) {}
+    ViaBuilder(const ViaRec& via, ShapeLocator& locator, NodeGrid& grid, ViaScratch& scratch,
+               uint32_t& number)
+        : via_(via),
+          locator_(locator),
+          grid_(grid),
+          number_(number),
+          radii_(scratch.radii),
+          near_(scratch.near) {}
 
     bool Build() {
         int32_t shape = kNoShape;
@@ -75,8 +87,9 @@ class ViaBuilder {
         upperNet_ = upper->net;
         if (!via_.noContact) {
             const int32_t end = std::min<int32_t>(via_.endLayer, g_model.g_nLayerCount);
+            GatherNearNodes(end);
             for (int32_t L = via_.startLayer + 1; L < end; ++L)
-                if (!MiddleLayer(L)) return false;
+                if (!MiddleLayer(L, L - via_.startLayer - 1)) return false;
         }
         return LowerEnd();
     }
@@ -93,9 +106,25 @@ class ViaBuilder {
 
     static double Limit() { return g_options.g_dbViaVoidArea / kOutputScale / kOutputScale; }
 
-    bool MiddleLayer(int32_t L) {
+    // The pad radius of each layer the via crosses, and the grid's nodes of all those layers
+    // near the centre, gathered once for the widest pad: the walk adds and moves nodes only on
+    // a layer it has asked about already, so the gathering stays true for the layers below.
+    void GatherNearNodes(int32_t end) {
+        radii_.clear();
+        double widest = 0.0;
+        for (int32_t L = via_.startLayer + 1; L < end; ++L) {
+            const bool copper = g_model.g_aLayers[L].kind != kLayerDielectric;
+            radii_.push_back(copper ? ViaPadRadius(via_, L) : 0.0);
+            if (copper && radii_.back() > widest) widest = radii_.back();
+        }
+        near_.clear();
+        nearKnown_ = widest > 0.0 &&
+                     grid_.ForNear(x_, y_, widest, [&](const NodeRec& n) { near_.push_back(&n); });
+    }
+
+    bool MiddleLayer(int32_t L, int32_t crossed) {
         if (g_model.g_aLayers[L].kind == kLayerDielectric) return true;
-        if (NodeNear(L, ViaPadRadius(via_, L))) return Connect(L, false);
+        if (NodeNear(L, radii_[static_cast<size_t>(crossed)])) return Connect(L, false);
         const int32_t shape = ShapeAtCentre(L);
         if (shape == kNoShape) return true;
         ShapeRec& s = g_model.g_aShapes[static_cast<size_t>(shape)];
@@ -125,11 +154,15 @@ class ViaBuilder {
             return std::sqrt(dx * dx + dy * dy) < r;
         };
         bool found = false;
-        const bool told = grid_.ForNear(L, x_, y_, r, [&](const NodeRec& n) {
+        auto visit = [&](const NodeRec& n) {
             if (!found && n.layer == L && near(n) && !NodeOrder()(n, low) && !NodeOrder()(high, n))
                 found = true;
-        });
-        if (told) return found;
+        };
+        if (nearKnown_) {
+            for (const NodeRec* n : near_) visit(*n);
+            return found;
+        }
+        if (grid_.ForNear(x_, y_, r, visit)) return found;
         WalkNodeRange(L, low.x, low.y, high.x, high.y, [&](const NodeRec& n) {
             found = near(n);
             return found;
@@ -222,6 +255,9 @@ class ViaBuilder {
     ShapeLocator& locator_;
     NodeGrid& grid_;
     uint32_t& number_;
+    std::vector<double>& radii_;
+    std::vector<const NodeRec*>& near_;
+    bool nearKnown_ = false;
     double x_ = 0.0, y_ = 0.0;
     uint32_t upperId_ = 0;
     int32_t upperNet_ = kNoNet;
@@ -234,8 +270,9 @@ int MakeVias() {
     ShapeLocator locator;
     NodeGrid grid;
     grid.Build(MiddleLayers());
+    ViaScratch scratch;
     uint32_t number = 1;
     for (const ViaRec& via : g_model.g_aVias)
-        if (!ViaBuilder(via, locator, grid, number).Build()) return 0;
+        if (!ViaBuilder(via, locator, grid, scratch, number).Build()) return 0;
     return 1;
 }
