@@ -30,7 +30,9 @@ template <class T>
 class StringMap {
   public:
     StringMap() : StringMap(kDefaultBuckets) {}
-    explicit StringMap(unsigned buckets) : buckets_(buckets ? buckets : 1), chains_(buckets_) {}
+    // The chains are made with the first entry: a board has a map or two in every part, most
+    // of them never filled.
+    explicit StringMap(unsigned buckets) : buckets_(buckets ? buckets : 1) {}
 
     StringMap(const StringMap& other) : StringMap(other.buckets_) { CopyFrom(other); }
     StringMap& operator=(const StringMap& other) {
@@ -38,7 +40,6 @@ class StringMap {
             buckets_ = other.buckets_;
             index_.clear();
             chains_.clear();
-            chains_.resize(buckets_);
             CopyFrom(other);
         }
         return *this;
@@ -66,6 +67,7 @@ class StringMap {
             *found = std::move(value);
             return *found;
         }
+        if (chains_.empty()) chains_.resize(buckets_);
         auto entry = std::make_unique<Entry>(Entry{key, std::move(value)});
         Entry* raw = entry.get();
         chains_[StringMapHash(key, buckets_)].push_back(std::move(entry));
@@ -120,12 +122,13 @@ class StringMap {
     };
     void CopyFrom(const StringMap& other) {
         // Insert oldest first so every chain keeps its order.
-        for (unsigned b = 0; b < other.buckets_; ++b)
-            for (const auto& e : other.chains_[b]) Set(e->key, e->value);
+        for (const auto& chain : other.chains_)
+            for (const auto& e : chain) Set(e->key, e->value);
     }
 
     unsigned buckets_;
-    // Each chain is stored oldest first; walking it backwards starts at the head.
+    // Each chain is stored oldest first; walking it backwards starts at the head. Empty until
+    // the first entry comes.
     std::vector<std::vector<std::unique_ptr<Entry>>> chains_;
     std::unordered_map<std::string, Entry*> index_;
 };
