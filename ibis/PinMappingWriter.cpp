@@ -92,8 +92,8 @@ void MappingRewrite::KeepUnchangedRows() {
         auto it = pinsByName_.find(NddToken(line_, 1));
         if (it == pinsByName_.end()) continue;
         const PinRec& pin = *it->second;
-        if (!pin.modelName.empty() && pin.modelName == pin.modelNameAsRead)
-            PrintRow(pin.name, pin.signalName, pin.modelName);
+        if (!pin.Model().modelName.empty() && pin.Model().modelName == pin.Model().modelNameAsRead)
+            PrintRow(pin.name, pin.Model().signalName, pin.Model().modelName);
     }
 }
 
@@ -102,9 +102,9 @@ void MappingRewrite::WriteChangedRows() {
     static const char* const kPassModel[] = {"POWER", "GND", "NC"};
     for (int pass = 0; pass < 3; ++pass) {
         for (const PinRec& pin : c_.pins) {
-            std::string signal = pin.signalName.empty() ? "NC" : pin.signalName;
-            std::string model = pin.modelName.empty() ? "NC" : pin.modelName;
-            if (model == pin.modelNameAsRead || !Contains(ToUpper(model), kPassModel[pass]))
+            std::string signal = pin.Model().signalName.empty() ? "NC" : pin.Model().signalName;
+            std::string model = pin.Model().modelName.empty() ? "NC" : pin.Model().modelName;
+            if (model == pin.Model().modelNameAsRead || !Contains(ToUpper(model), kPassModel[pass]))
                 continue;
             if (pass == 2)
                 signal = "NC";
@@ -128,12 +128,13 @@ void MappingRewrite::WriteMappingTable() {
 void MappingRewrite::WriteMappingRow(const PinRec& pin) {
     const char* name = pin.name.c_str();
     if (pin.pinClass == 0) {
-        std::fprintf(out_, "%-19s%-19s%-19s%-19s%s\n", name, pin.pulldownRef.c_str(),
-                     pin.pullupRef.c_str(), pin.gndClampRef.c_str(), pin.powerClampRef.c_str());
-    } else if (pin.pinClass == 1 && !pin.powerGroup.empty()) {
-        std::fprintf(out_, "%-19s%-19s%s\n", name, "NC", pin.powerGroup.c_str());
-    } else if (pin.pinClass == 2 && !pin.groundGroup.empty()) {
-        std::fprintf(out_, "%-19s%-19s%s\n", name, pin.groundGroup.c_str(), "NC");
+        std::fprintf(out_, "%-19s%-19s%-19s%-19s%s\n", name, pin.Model().pulldownRef.c_str(),
+                     pin.Model().pullupRef.c_str(), pin.Model().gndClampRef.c_str(),
+                     pin.Model().powerClampRef.c_str());
+    } else if (pin.pinClass == 1 && !pin.Model().powerGroup.empty()) {
+        std::fprintf(out_, "%-19s%-19s%s\n", name, "NC", pin.Model().powerGroup.c_str());
+    } else if (pin.pinClass == 2 && !pin.Model().groundGroup.empty()) {
+        std::fprintf(out_, "%-19s%-19s%s\n", name, pin.Model().groundGroup.c_str(), "NC");
     } else {
         // No reference: the pin alone, with four empty columns behind it.
         std::fprintf(out_, "%s%19s%19s%19s%19s\n", name, "", "", "", "");

@@ -38,11 +38,12 @@ struct Read {
         std::string t =
             bit(c.ibisOpened) + bit(c.ibisError) + bit(c.pinsMatch) + bit(c.mappingComplete) + "\n";
         for (const PinRec& p : c.pins) {
-            t += p.name + " c" + std::to_string(p.pinClass) + " " + p.signalName + " " +
-                 p.modelName + " " + p.modelType + " m" + bit(p.hasModel) + " [" + p.pulldownRef +
-                 "," + p.pullupRef + "," + p.gndClampRef + "," + p.powerClampRef + "] [" +
-                 p.powerGroup + "," + p.groundGroup + "] " + p.ioNode;
-            for (const std::string& node : p.nodeNames) t += " " + node;
+            t += p.name + " c" + std::to_string(p.pinClass) + " " + p.Model().signalName + " " +
+                 p.Model().modelName + " " + p.Model().modelType + " m" + bit(p.hasModel) + " [" +
+                 p.Model().pulldownRef + "," + p.Model().pullupRef + "," + p.Model().gndClampRef +
+                 "," + p.Model().powerClampRef + "] [" + p.Model().powerGroup + "," +
+                 p.Model().groundGroup + "] " + p.Model().ioNode;
+            for (const std::string& node : p.Model().nodeNames) t += " " + node;
             t += "\n";
         }
         return t;
