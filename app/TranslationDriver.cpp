@@ -157,8 +157,10 @@ int TranslationDriver::TranslateNamed(std::string inputFile, std::string outputF
             ReportMessage("The Extension of Input File must be NDD !\nPlease Retry .");
             return 0;
         }
-        if (outputFile.back() != '.' && !EqualsNoCase(ExtensionOf(outputFile), ".QFX"))
-            outputFile += ".QFX";
+        const bool named =
+            outputFile.back() == '.' || EqualsNoCase(ExtensionOf(outputFile), ".QFX");
+        if (!named) outputFile += ".QFX";
+        firstWritingReplaced_ = named;
         size_t sep = base::LastSeparator(outputFile);
         std::string outputFolder =
             sep == std::string::npos ? std::string() : outputFile.substr(0, sep + 1);
@@ -395,10 +397,18 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     RunShapeCleanupRound();
     if (VoidCheckWanted()) CheckUndiscardableVoids();
 
+    // When the report step writes every section again into this same file, the sections that
+    // grow with the board (shapes, nodes, traces, vias) only leave their marks in the model
+    // here, so that a big board is not formatted twice; the small sections are written as
+    // they are. A first writing under another name stays beside the deck and is written whole.
+    const bool whole = !firstWritingReplaced_;
     TraceStep(true, "Writing Shape Info...");
     if (g_options.g_bTranslateShapes) {
         ShowStage("Writing Shape Info...");
-        WriteShapes(out);
+        if (whole)
+            WriteShapes(out);
+        else
+            MarkShapeLayers();
     }
     if (g_options.g_bTranslateLayers) {
         ShowStage("Writing Layer Info...");
@@ -411,13 +421,16 @@ int TranslationDriver::TranslateNddToQfx(const std::string& inputFile,
     TraceStep(true, "MakeNode");
     MakeNode();
     FlipMirroredBottomNodes();
-    WriteNodes(out);
+    if (whole)
+        WriteNodes(out);
+    else
+        PrepareNodeWriting();
     TraceStep(true, "MakeTrace");
     if (g_options.g_bTranslateTraces) {
         ShowStage("Writing Trace Info...");
-        WriteTraces(out);
+        if (whole) WriteTraces(out);
     }
-    if (g_options.g_bTranslateVias) WriteVias(out);
+    if (g_options.g_bTranslateVias && whole) WriteVias(out);
 
     ShowStage("Writing PKG End...");
     WritePackageEnd(out);

@@ -63,6 +63,10 @@ class TranslationDriver {
     int FailMakeVias();
 
     TranslationHost& host_;
+    // The report step writes the deck again into the file of the first writing (the output
+    // was named with its extension): the first writing's text of the sections that grow with
+    // the board would only be replaced.
+    bool firstWritingReplaced_ = false;
     // The input must be read afresh: true after construction, a new input or a log load.
     bool m_bReread = true;
     // Part numbers to IBIS model assignments, made in Translate; components with their

@@ -92,9 +92,13 @@ std::vector<bool> RepeatedNumbers(const std::vector<NodeRec>& nodes, size_t coun
 
 }  // namespace
 
-void WriteNodes(FILE* out) {
+void PrepareNodeWriting() {
     FixUpPadStackDrills();
     RebuildNodeIndex();
+}
+
+void WriteNodes(FILE* out) {
+    PrepareNodeWriting();
     const std::vector<NodeRec>& nodes = g_model.g_aNodes;
     const size_t count = std::min(nodes.size(), g_model.g_setNodes.size());
     const std::vector<bool> repeated = RepeatedNumbers(nodes, count);

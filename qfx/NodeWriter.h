@@ -6,3 +6,7 @@
 // Also settles the drill of every via padstack that has none, from the via output table, so
 // that the padstack library prints it, and rebuilds the node index.
 void WriteNodes(FILE* out);
+
+// What WriteNodes leaves in the model, without its text: the via padstacks' drills and the
+// node index.
+void PrepareNodeWriting();

@@ -113,9 +113,10 @@ void WriteNullShapeIfReferred(FILE* out) {
         std::fprintf(out, ".Shape PseudoNullShape Color = green\n.EndShape\n");
 }
 
-}  // namespace
-
-void WriteShapes(FILE* out) {
+// Calls section(layer, first, last) for each run of shapes [first, last] of one layer that
+// gets a ".Shape" section, after marking the layer as holding shapes.
+template <class Section>
+void ForEachShapeSection(Section&& section) {
     const double limit = g_options.g_dbVoidAreaLimit / kOutputScale / kOutputScale;
     const auto& shapes = g_model.g_aShapes;
     const int count = static_cast<int>(shapes.size());
@@ -128,17 +129,31 @@ void WriteShapes(FILE* out) {
             continue;
         }
         LayerRec& layer = g_model.g_aLayers[first.layer];
-        std::fprintf(out, ".Shape Shape$%s%s Color = green\n", Affix().c_str(),
-                     LayerName(layer).c_str());
         layer.hasShapes = 1;
         int end = i;
         while (end + 1 < count && shapes[static_cast<size_t>(end + 1)].layer == first.layer) ++end;
-        // The shape that opened the section decides for the whole run whether small voids stay.
-        for (int k = end; k >= i; --k)
-            if (!Droppable(shapes[static_cast<size_t>(k)], first.undiscardable, limit))
-                WriteElement(out, k);
-        std::fprintf(out, ".EndShape\n");
+        section(layer, i, end, first.undiscardable, limit);
         i = end + 1;
     }
+}
+
+}  // namespace
+
+void WriteShapes(FILE* out) {
+    ForEachShapeSection(
+        [out](const LayerRec& layer, int first, int last, int32_t undiscardable, double limit) {
+            std::fprintf(out, ".Shape Shape$%s%s Color = green\n", Affix().c_str(),
+                         LayerName(layer).c_str());
+            // The shape that opened the section decides for the whole run whether small
+            // voids stay.
+            for (int k = last; k >= first; --k)
+                if (!Droppable(g_model.g_aShapes[static_cast<size_t>(k)], undiscardable, limit))
+                    WriteElement(out, k);
+            std::fprintf(out, ".EndShape\n");
+        });
     WriteNullShapeIfReferred(out);
+}
+
+void MarkShapeLayers() {
+    ForEachShapeSection([](const LayerRec&, int, int, int32_t, double) {});
 }
