@@ -47,13 +47,12 @@ std::vector<PinGroupRec> MakePinGroups(const ComponentRec& component) {
     }
     std::vector<std::string> available;
     for (const PinRec& pin : component.pins) {
+        const PinModelFields& m = pin.Model();
         if (pin.pinClass == 1)
-            GroupOf(groups, pin.Model().powerGroup.empty() ? "PWRGRP0" : pin.Model().powerGroup,
-                    "PU")
+            GroupOf(groups, m.powerGroup.empty() ? "PWRGRP0" : m.powerGroup, "PU")
                 .pins.push_back(pin.name);
         else if (pin.pinClass == 2)
-            GroupOf(groups, pin.Model().groundGroup.empty() ? "GNDGRP0" : pin.Model().groundGroup,
-                    "PD")
+            GroupOf(groups, m.groundGroup.empty() ? "GNDGRP0" : m.groundGroup, "PD")
                 .pins.push_back(pin.name);
         else if (pin.pinClass < 0)
             available.push_back(pin.name);

@@ -28,10 +28,10 @@ void FillSignalPinRows(CUiListCtrl& list, const ComponentRec& component) {
     for (const PinRec& pin : component.pins) {
         if (pin.pinClass != 0) continue;
         int row = list.InsertItem(list.GetItemCount(), QString::fromStdString(pin.name));
-        const std::string* cells[] = {&pin.Model().pulldownRef, &pin.Model().pullupRef,
-                                      &pin.Model().gndClampRef, &pin.Model().powerClampRef,
-                                      &pin.Model().signalName,  &pin.Model().modelType,
-                                      &pin.Model().modelName};
+        const PinModelFields& m = pin.Model();
+        const std::string* cells[] = {&m.pulldownRef,   &m.pullupRef,  &m.gndClampRef,
+                                      &m.powerClampRef, &m.signalName, &m.modelType,
+                                      &m.modelName};
         int column = kColPulldown;
         for (const std::string* cell : cells)
             list.SetItemText(row, column++, QString::fromStdString(*cell));

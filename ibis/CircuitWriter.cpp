@@ -48,23 +48,20 @@ std::string InstanceNode(const PinRec& pin, const std::string& token,
     auto has = [&](const char* node) {
         return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
     };
+    const PinModelFields& m = pin.Model();
     const std::string* ref = nullptr;
     const std::string* fallback = nullptr;
     bool fallbackAllowed = false;
     if (token.find("nd_pu") != std::string::npos) {
-        ref = &pin.Model().pullupRef, fallback = &pin.Model().powerClampRef,
-        fallbackAllowed = has("nd_pc");
+        ref = &m.pullupRef, fallback = &m.powerClampRef, fallbackAllowed = has("nd_pc");
     } else if (token.find("nd_pd") != std::string::npos) {
-        ref = &pin.Model().pulldownRef, fallback = &pin.Model().gndClampRef,
-        fallbackAllowed = has("nd_gc");
+        ref = &m.pulldownRef, fallback = &m.gndClampRef, fallbackAllowed = has("nd_gc");
     } else if (token.find("nd_pc") != std::string::npos) {
-        ref = &pin.Model().powerClampRef, fallback = &pin.Model().pullupRef,
-        fallbackAllowed = has("nd_pu");
+        ref = &m.powerClampRef, fallback = &m.pullupRef, fallbackAllowed = has("nd_pu");
     } else if (token.find("nd_gc") != std::string::npos) {
-        ref = &pin.Model().gndClampRef, fallback = &pin.Model().pulldownRef,
-        fallbackAllowed = has("nd_pd");
+        ref = &m.gndClampRef, fallback = &m.pulldownRef, fallbackAllowed = has("nd_pd");
     }
-    std::string own = " " + token + "_" + pin.name + "_" + pin.Model().modelType;
+    std::string own = " " + token + "_" + pin.name + "_" + m.modelType;
     if (!ref) return own;
     if (!ref->empty() && !IsNcRef(*ref)) return " " + *ref;
     if (ref->empty() && fallbackAllowed && !fallback->empty()) return " " + *fallback;

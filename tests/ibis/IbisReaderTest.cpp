@@ -38,12 +38,12 @@ struct Read {
         std::string t =
             bit(c.ibisOpened) + bit(c.ibisError) + bit(c.pinsMatch) + bit(c.mappingComplete) + "\n";
         for (const PinRec& p : c.pins) {
-            t += p.name + " c" + std::to_string(p.pinClass) + " " + p.Model().signalName + " " +
-                 p.Model().modelName + " " + p.Model().modelType + " m" + bit(p.hasModel) + " [" +
-                 p.Model().pulldownRef + "," + p.Model().pullupRef + "," + p.Model().gndClampRef +
-                 "," + p.Model().powerClampRef + "] [" + p.Model().powerGroup + "," +
-                 p.Model().groundGroup + "] " + p.Model().ioNode;
-            for (const std::string& node : p.Model().nodeNames) t += " " + node;
+            const PinModelFields& m = p.Model();
+            t += p.name + " c" + std::to_string(p.pinClass) + " " + m.signalName + " " +
+                 m.modelName + " " + m.modelType + " m" + bit(p.hasModel) + " [" + m.pulldownRef +
+                 "," + m.pullupRef + "," + m.gndClampRef + "," + m.powerClampRef + "] [" +
+                 m.powerGroup + "," + m.groundGroup + "] " + m.ioNode;
+            for (const std::string& node : m.nodeNames) t += " " + node;
             t += "\n";
         }
         return t;

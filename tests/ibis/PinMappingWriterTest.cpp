@@ -197,19 +197,16 @@ TEST_F(PinMappingWriterTest, VendorFilesRoundTrip) {
         auto was = before.pins.begin();
         auto stored = state.component.pins.begin();
         auto refs = [](const PinRec& p) {
-            return p.Model().pulldownRef + "|" + p.Model().pullupRef + "|" + p.Model().gndClampRef +
-                   "|" + p.Model().powerClampRef;
+            const PinModelFields& m = p.Model();
+            return m.pulldownRef + "|" + m.pullupRef + "|" + m.gndClampRef + "|" + m.powerClampRef;
         };
         for (const PinRec& pin : back.pins) {
             SCOPED_TRACE(pin.name);
-            EXPECT_EQ(
-                pin.Model().signalName + " " + pin.Model().modelName + " " + pin.Model().modelType,
-                was->Model().signalName + " " + was->Model().modelName + " " +
-                    was->Model().modelType);
-            EXPECT_EQ(pin.Model().powerGroup,
-                      stored->pinClass == 1 ? stored->Model().powerGroup : "");
-            EXPECT_EQ(pin.Model().groundGroup,
-                      stored->pinClass == 2 ? stored->Model().groundGroup : "");
+            const PinModelFields &m = pin.Model(), &w = was->Model(), &s = stored->Model();
+            EXPECT_EQ(m.signalName + " " + m.modelName + " " + m.modelType,
+                      w.signalName + " " + w.modelName + " " + w.modelType);
+            EXPECT_EQ(m.powerGroup, stored->pinClass == 1 ? s.powerGroup : "");
+            EXPECT_EQ(m.groundGroup, stored->pinClass == 2 ? s.groundGroup : "");
             EXPECT_EQ(refs(pin), pin.hasModel ? refs(*stored) : "|||");
             ++was, ++stored;
         }
