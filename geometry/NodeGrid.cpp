@@ -35,12 +35,12 @@ bool NodeGrid::Wanted(int32_t layer) const {
 std::vector<const NodeRec*>* NodeGrid::CellOf(const NodeRec* node, double x, double y) {
     int64_t cx, cy;
     if (!Key(node->layer, x, y, cx, cy)) return &odd_;
-    return &cells_[CellKey(node->layer, cx, cy)];
+    return &cells_.Get(CellKey(node->layer, cx, cy));
 }
 
 void NodeGrid::Build(std::vector<bool> wanted) {
     wanted_ = std::move(wanted);
-    cells_.clear();
+    cells_.Clear();
     odd_.clear();
     for (const NodeRec& n : g_model.g_setNodes) Add(&n);
 }
@@ -51,6 +51,11 @@ void NodeGrid::Add(const NodeRec* node) {
 
 void NodeGrid::Moved(const NodeRec* node, double oldX, double oldY) {
     if (!Wanted(node->layer)) return;
+    // A via moves its nodes by less than the node tolerance: nearly always within their cell.
+    int64_t oldCx, oldCy, cx, cy;
+    if (Key(node->layer, oldX, oldY, oldCx, oldCy) && Key(node->layer, node->x, node->y, cx, cy) &&
+        oldCx == cx && oldCy == cy)
+        return;
     std::vector<const NodeRec*>* from = CellOf(node, oldX, oldY);
     std::vector<const NodeRec*>* to = CellOf(node, node->x, node->y);
     if (from == to) return;

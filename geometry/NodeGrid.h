@@ -3,9 +3,9 @@
 // r of (x, y)?", which a walk of the node set answers only by walking the strip x ± r of the
 // whole layer. Holds pointers into the node set: keep it in step when nodes are added or moved.
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
+#include "geometry/CellTable.h"
 #include "model/NodeRec.h"
 
 class NodeGrid {
@@ -30,7 +30,7 @@ class NodeGrid {
     std::vector<const NodeRec*>* CellOf(const NodeRec* node, double x, double y);
 
     std::vector<bool> wanted_;
-    std::unordered_map<uint64_t, std::vector<const NodeRec*>> cells_;
+    CellTable cells_;
     std::vector<const NodeRec*> odd_;  // nodes with a coordinate that is no finite number
 };
 
@@ -46,9 +46,9 @@ bool NodeGrid::ForNear(int32_t layer, double x, double y, double r, Visit&& visi
     if ((x1 - x0 + 1) * (y1 - y0 + 1) > kNodeGridMaxCells) return false;
     for (int64_t cx = x0; cx <= x1; ++cx)
         for (int64_t cy = y0; cy <= y1; ++cy) {
-            auto found = cells_.find(CellKey(layer, cx, cy));
-            if (found == cells_.end()) continue;
-            for (const NodeRec* n : found->second) visit(*n);
+            const CellTable::List* found = cells_.Find(CellKey(layer, cx, cy));
+            if (!found) continue;
+            for (const NodeRec* n : *found) visit(*n);
         }
     for (const NodeRec* n : odd_)
         if (n->layer == layer) visit(*n);

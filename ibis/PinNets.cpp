@@ -6,8 +6,16 @@
 
 namespace {
 
+// A property's name and its alias, looked up once for the whole pass.
+struct PropertyName {
+    explicit PropertyName(const char* key_) : key(key_), alias(PropertyAlias(key_)) {}
+    std::string key, alias;
+};
+
 // What stays current from one gate line to the next.
 struct GateState {
+    PropertyName refDes{kRefDesProperty}, partNumberName{kPartNumberProperty},
+        pinNumber{kPinNumberProperty};
     ComponentRec* component = nullptr;
     std::string partNumber;
     std::string port;
@@ -23,11 +31,10 @@ struct NamingTokens {
 
 // The value of a line that names the property (or its alias) in its first or second token:
 // the second token, or the third on a "%prop" line. False when the line does not name it.
-bool PropertyValue(const std::string& line, const NamingTokens& tokens, const char* key,
+bool PropertyValue(const std::string& line, const NamingTokens& tokens, const PropertyName& name,
                    std::string& value) {
-    std::string alias = PropertyAlias(key);
-    if (tokens.first != key && tokens.first != alias && tokens.second != key &&
-        tokens.second != alias)
+    if (tokens.first != name.key && tokens.first != name.alias && tokens.second != name.key &&
+        tokens.second != name.alias)
         return false;
     value = Contains(line, "%prop") ? StripQuotes(NddToken(line, 3)) : tokens.second;
     return true;
@@ -54,11 +61,11 @@ void SetPartNumber(GateState& state, const std::string& partNumber, const std::s
 void GateLine(const std::string& line, GateState& state, const std::string& folder) {
     std::string value;
     const NamingTokens tokens(line);
-    if (!Contains(line, "%port") && PropertyValue(line, tokens, kRefDesProperty, value)) {
+    if (!Contains(line, "%port") && PropertyValue(line, tokens, state.refDes, value)) {
         state.component = g_model.g_mapComponents.Find(value);
         if (state.component && !state.partNumber.empty())
             state.component->partNumber = state.partNumber;
-    } else if (PropertyValue(line, tokens, kPartNumberProperty, value)) {
+    } else if (PropertyValue(line, tokens, state.partNumberName, value)) {
         SetPartNumber(state, value, folder);
     } else if (IsPortLine(line)) {
         state.port = StripQuotes(NddToken(line, 2));
@@ -66,7 +73,7 @@ void GateLine(const std::string& line, GateState& state, const std::string& fold
     } else if (StartsWith(line, "%powerport")) {
         state.net = StripQuotes(NddToken(line, 3));
         state.port = StripQuotes(NddToken(line, 4));
-    } else if (PropertyValue(line, tokens, kPinNumberProperty, value)) {
+    } else if (PropertyValue(line, tokens, state.pinNumber, value)) {
         state.port = value;
         if (!state.component) return;
         for (PinRec& pin : state.component->pins)

@@ -118,7 +118,8 @@ void RebuildNodeArray() {
     std::vector<NodeRec>().swap(g_model.g_aNodes);
     std::vector<NodeRec> nodes;
     base::ReserveLarge(nodes, (set.size() / kNodeArrayBlock + 1) * kNodeArrayBlock);
-    nodes.assign(set.begin(), set.end());
+    // One walk of the tree: assign() over set iterators walks it once to count, then to copy.
+    for (const NodeRec& node : set) nodes.push_back(node);
     g_model.g_aNodes.swap(nodes);
 }
 
