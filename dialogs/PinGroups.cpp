@@ -38,8 +38,8 @@ bool IsPowerOrGround(const PinGroupRec& group) {
 std::vector<PinGroupRec> MakePinGroups(const ComponentRec& component) {
     std::vector<PinGroupRec> groups;
     bool named = std::any_of(component.pins.begin(), component.pins.end(), [](const PinRec& p) {
-        return (p.pinClass == 1 && !p.powerGroup.empty()) ||
-               (p.pinClass == 2 && !p.groundGroup.empty());
+        return (p.pinClass == 1 && !p.Model().powerGroup.empty()) ||
+               (p.pinClass == 2 && !p.Model().groundGroup.empty());
     });
     if (!named) {
         GroupOf(groups, "PWRGRP0", "PU");
@@ -47,11 +47,12 @@ std::vector<PinGroupRec> MakePinGroups(const ComponentRec& component) {
     }
     std::vector<std::string> available;
     for (const PinRec& pin : component.pins) {
+        const PinModelFields& m = pin.Model();
         if (pin.pinClass == 1)
-            GroupOf(groups, pin.powerGroup.empty() ? "PWRGRP0" : pin.powerGroup, "PU")
+            GroupOf(groups, m.powerGroup.empty() ? "PWRGRP0" : m.powerGroup, "PU")
                 .pins.push_back(pin.name);
         else if (pin.pinClass == 2)
-            GroupOf(groups, pin.groundGroup.empty() ? "GNDGRP0" : pin.groundGroup, "PD")
+            GroupOf(groups, m.groundGroup.empty() ? "GNDGRP0" : m.groundGroup, "PD")
                 .pins.push_back(pin.name);
         else if (pin.pinClass < 0)
             available.push_back(pin.name);
@@ -75,7 +76,7 @@ std::string PinRowText(const PinRec& pin) {
     if (pin.pinClass == 1) return pin.name + " -  PWR";
     if (pin.pinClass == 2) return pin.name + " -  GND";
     if (pin.pinClass < 0) return pin.name + " -  NC";
-    if (pin.signalName.empty()) return pin.name + " -  NP**";
+    if (pin.Model().signalName.empty()) return pin.name + " -  NP**";
     return pin.name;
 }
 

@@ -28,9 +28,10 @@ void FillSignalPinRows(CUiListCtrl& list, const ComponentRec& component) {
     for (const PinRec& pin : component.pins) {
         if (pin.pinClass != 0) continue;
         int row = list.InsertItem(list.GetItemCount(), QString::fromStdString(pin.name));
-        const std::string* cells[] = {&pin.pulldownRef,   &pin.pullupRef,  &pin.gndClampRef,
-                                      &pin.powerClampRef, &pin.signalName, &pin.modelType,
-                                      &pin.modelName};
+        const PinModelFields& m = pin.Model();
+        const std::string* cells[] = {&m.pulldownRef,   &m.pullupRef,  &m.gndClampRef,
+                                      &m.powerClampRef, &m.signalName, &m.modelType,
+                                      &m.modelName};
         int column = kColPulldown;
         for (const std::string* cell : cells)
             list.SetItemText(row, column++, QString::fromStdString(*cell));

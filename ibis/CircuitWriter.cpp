@@ -48,19 +48,20 @@ std::string InstanceNode(const PinRec& pin, const std::string& token,
     auto has = [&](const char* node) {
         return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
     };
+    const PinModelFields& m = pin.Model();
     const std::string* ref = nullptr;
     const std::string* fallback = nullptr;
     bool fallbackAllowed = false;
     if (token.find("nd_pu") != std::string::npos) {
-        ref = &pin.pullupRef, fallback = &pin.powerClampRef, fallbackAllowed = has("nd_pc");
+        ref = &m.pullupRef, fallback = &m.powerClampRef, fallbackAllowed = has("nd_pc");
     } else if (token.find("nd_pd") != std::string::npos) {
-        ref = &pin.pulldownRef, fallback = &pin.gndClampRef, fallbackAllowed = has("nd_gc");
+        ref = &m.pulldownRef, fallback = &m.gndClampRef, fallbackAllowed = has("nd_gc");
     } else if (token.find("nd_pc") != std::string::npos) {
-        ref = &pin.powerClampRef, fallback = &pin.pullupRef, fallbackAllowed = has("nd_pu");
+        ref = &m.powerClampRef, fallback = &m.pullupRef, fallbackAllowed = has("nd_pu");
     } else if (token.find("nd_gc") != std::string::npos) {
-        ref = &pin.gndClampRef, fallback = &pin.pulldownRef, fallbackAllowed = has("nd_pd");
+        ref = &m.gndClampRef, fallback = &m.pulldownRef, fallbackAllowed = has("nd_pd");
     }
-    std::string own = " " + token + "_" + pin.name + "_" + pin.modelType;
+    std::string own = " " + token + "_" + pin.name + "_" + m.modelType;
     if (!ref) return own;
     if (!ref->empty() && !IsNcRef(*ref)) return " " + *ref;
     if (ref->empty() && fallbackAllowed && !fallback->empty()) return " " + *fallback;
@@ -111,11 +112,11 @@ std::string ActiveBlockText(const ComponentRec& component) {
         if (!pin.hasModel || pin.net.empty() || pin.pinClass != 0 || !IsNetSelected(pin.net))
             continue;
         bool known = false;
-        std::vector<std::string> nodes = ModelNodesOf(pin.modelType, &known);
+        std::vector<std::string> nodes = ModelNodesOf(pin.Model().modelType, &known);
         if (!known) continue;
-        body += "b_" + pin.name + "_" + pin.modelType;
+        body += "b_" + pin.name + "_" + pin.Model().modelType;
         for (const std::string& token : nodes) body += InstanceNode(pin, token, nodes);
-        body += "\n+ file='" + component.ibisFile + "' model='" + pin.modelName + "'\n";
+        body += "\n+ file='" + component.ibisFile + "' model='" + pin.Model().modelName + "'\n";
     }
     if (body.empty()) return "";
     return ".PartialCkt  " + component.blockName + " \n" + body + ".EndPartialCkt\n";

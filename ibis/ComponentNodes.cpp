@@ -72,8 +72,8 @@ void GatherGroups(base::StringMap<ComponentRec*>& blockTable) {
         if (!c->isActive) return;
         ParseIbisFile(*c);
         for (const PinRec& pin : c->pins) {
-            if (pin.pinClass == 1) AddToGroup(*c, pin.powerGroup, "PU", pin.name);
-            if (pin.pinClass == 2) AddToGroup(*c, pin.groundGroup, "PD", pin.name);
+            if (pin.pinClass == 1) AddToGroup(*c, pin.Model().powerGroup, "PU", pin.name);
+            if (pin.pinClass == 2) AddToGroup(*c, pin.Model().groundGroup, "PD", pin.name);
         }
     });
 }

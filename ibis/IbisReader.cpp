@@ -119,9 +119,10 @@ bool IbisScan::ReadPinTable() {
         rows.push_back({pin, NddToken(line_, 2), NddToken(line_, 3)});
     }
     for (const Row& row : rows) {
-        row.pin->modelName = row.model;
-        row.pin->modelNameAsRead = row.model;
-        row.pin->signalName = row.signal;
+        PinModelFields& m = row.pin->EditModel();
+        m.modelName = row.model;
+        m.modelNameAsRead = row.model;
+        m.signalName = row.signal;
         row.pin->pinClass = PinClassOfModel(row.model);
     }
     return true;
@@ -152,10 +153,10 @@ void IbisScan::ReadPinMapping() {
         MappingRow row{tokens[1], tokens[2], tokens[3], tokens[4]};
         if (pin->pinClass == 1) {
             if (railsPass_ && !row.t3.empty()) rails_[row.t3] = "PWR";
-            if (!railsPass_) pin->powerGroup = row.t3;
+            if (!railsPass_) pin->EditModel().powerGroup = row.t3;
         } else if (pin->pinClass == 2) {
             if (railsPass_ && !row.t2.empty()) rails_[row.t2] = "GND";
-            if (!railsPass_) pin->groundGroup = row.t2;
+            if (!railsPass_) pin->EditModel().groundGroup = row.t2;
         } else if (pin->pinClass == 0 && !railsPass_) {
             MapSignalPin(*pin, row);
         }
@@ -196,7 +197,7 @@ void ChooseReferences(const MappingRow& r, const std::string& k2, const std::str
 
 void IbisScan::MapSignalPin(PinRec& pin, const MappingRow& row) {
     RefNodes has;
-    for (const std::string& node : ModelNodesOf(pin.modelType)) {
+    for (const std::string& node : ModelNodesOf(pin.Model().modelType)) {
         has.pu |= node == "nd_pu";
         has.pd |= node == "nd_pd";
         has.pc |= node == "nd_pc";
@@ -204,16 +205,17 @@ void IbisScan::MapSignalPin(PinRec& pin, const MappingRow& row) {
     }
     std::string ref[4];
     ChooseReferences(row, Kind(row.t2), Kind(row.t3), Kind(row.t4), ref);
-    pin.pulldownRef = has.pd ? ref[0] : std::string();
-    pin.pullupRef = has.pu ? ref[1] : std::string();
-    pin.gndClampRef = has.gc ? ref[2] : std::string();
-    pin.powerClampRef = has.pc ? ref[3] : std::string();
+    PinModelFields& m = pin.EditModel();
+    m.pulldownRef = has.pd ? ref[0] : std::string();
+    m.pullupRef = has.pu ? ref[1] : std::string();
+    m.gndClampRef = has.gc ? ref[2] : std::string();
+    m.powerClampRef = has.pc ? ref[3] : std::string();
     if (!HasOpposingReferences(pin)) ++incomplete_;
 }
 
 bool IbisScan::ReadModels() {
     std::unordered_map<std::string, std::vector<PinRec*>> pinsByModel;
-    for (PinRec& pin : c_.pins) pinsByModel[pin.modelName].push_back(&pin);
+    for (PinRec& pin : c_.pins) pinsByModel[pin.Model().modelName].push_back(&pin);
     bool first = true;
     bool more = haveLine_ || ReadLine();
     for (; more; more = ReadLine()) {
@@ -231,7 +233,7 @@ bool IbisScan::ReadModels() {
         std::string type = NddToken(line_, 2);
         auto it = pinsByModel.find(name);
         if (it == pinsByModel.end()) continue;
-        for (PinRec* pin : it->second) pin->modelType = type;
+        for (PinRec* pin : it->second) pin->EditModel().modelType = type;
     }
     return true;
 }
@@ -239,15 +241,16 @@ bool IbisScan::ReadModels() {
 void IbisScan::NameNodes() {
     for (PinRec& pin : c_.pins) {
         bool found = false;
-        std::vector<std::string> nodes = ModelNodesOf(pin.modelType, &found);
+        std::vector<std::string> nodes = ModelNodesOf(pin.Model().modelType, &found);
         pin.hasModel = found ? 1 : 0;
         if (!found) continue;
-        bool input = pin.modelType == "Input" || pin.modelType == "Input_ECL";
-        bool fill = pin.nodeNames.empty();
+        PinModelFields& m = pin.EditModel();
+        bool input = m.modelType == "Input" || m.modelType == "Input_ECL";
+        bool fill = m.nodeNames.empty();
         for (const std::string& node : nodes) {
-            std::string name = node + "_" + pin.name + "_" + pin.modelType;
-            if ((input && node == "nd_in") || (!input && node == "nd_out")) pin.ioNode = name;
-            if (fill) pin.nodeNames.push_back(name);
+            std::string name = node + "_" + pin.name + "_" + m.modelType;
+            if ((input && node == "nd_in") || (!input && node == "nd_out")) m.ioNode = name;
+            if (fill) m.nodeNames.push_back(name);
         }
     }
 }

@@ -55,16 +55,18 @@ int PassiveConnect(ComponentNodes& nodes, ComponentRec& c, std::string& text) {
 // An empty reference takes its partner when the model has the reference's node.
 void MendReferences(PinRec& pin) {
     bool pu = false, pd = false, pc = false, gc = false;
-    for (const std::string& name : pin.nodeNames) {
+    for (const std::string& name : pin.Model().nodeNames) {
         pu |= Contains(name, "nd_pu");
         pd |= Contains(name, "nd_pd");
         pc |= Contains(name, "nd_pc");
         gc |= Contains(name, "nd_gc");
     }
-    if (pu && pin.pullupRef.empty()) pin.pullupRef = pin.powerClampRef;
-    if (pc && pin.powerClampRef.empty()) pin.powerClampRef = pin.pullupRef;
-    if (pd && pin.pulldownRef.empty()) pin.pulldownRef = pin.gndClampRef;
-    if (gc && pin.gndClampRef.empty()) pin.gndClampRef = pin.pulldownRef;
+    if (!pu && !pc && !pd && !gc) return;
+    PinModelFields& m = pin.EditModel();
+    if (pu && m.pullupRef.empty()) m.pullupRef = m.powerClampRef;
+    if (pc && m.powerClampRef.empty()) m.powerClampRef = m.pullupRef;
+    if (pd && m.pulldownRef.empty()) m.pulldownRef = m.gndClampRef;
+    if (gc && m.gndClampRef.empty()) m.gndClampRef = m.pulldownRef;
 }
 
 PinRec* PinNamed(ComponentRec& c, const std::string& name) {
@@ -118,15 +120,16 @@ void ActiveConnect(FILE* out, ComponentNodes& nodes, ComponentRec& c) {
         if (pin.pinClass != 0 || !NetTaken(pin)) continue;
         const std::string* entry = c.pinNodes.Find(pin.name);
         if (!entry) continue;
-        std::string line = pin.ioNode + " $Package.Node" + *entry + "!!" + pin.name;
+        std::string line = pin.Model().ioNode + " $Package.Node" + *entry + "!!" + pin.name;
         std::string nodeNet = NodeNetName(nodes.NodeOf(*entry));
         if (!nodeNet.empty()) line += "::" + nodeNet;
         line += "\n";
         MendReferences(pin);
         std::string groups;
         bool connected = false;
+        const PinModelFields& m = pin.Model();
         for (const std::string* ref :
-             {&pin.pullupRef, &pin.pulldownRef, &pin.powerClampRef, &pin.gndClampRef})
+             {&m.pullupRef, &m.pulldownRef, &m.powerClampRef, &m.gndClampRef})
             GroupLines(nodes, c, *ref, done, groups, connected);
         if (connected) body += line + groups;
     }

@@ -86,18 +86,7 @@ namespace {
 // Everything a model gives a pin; its net stays its own.
 void CopyPinModel(const PinRec& from, PinRec& to) {
     to.hasModel = from.hasModel;
-    to.nodeNames = from.nodeNames;
-    to.ioNode = from.ioNode;
-    to.pullupRef = from.pullupRef;
-    to.pulldownRef = from.pulldownRef;
-    to.powerClampRef = from.powerClampRef;
-    to.gndClampRef = from.gndClampRef;
-    to.powerGroup = from.powerGroup;
-    to.groundGroup = from.groundGroup;
-    to.modelName = from.modelName;
-    to.modelNameAsRead = from.modelNameAsRead;
-    to.modelType = from.modelType;
-    to.signalName = from.signalName;
+    to.CopyModelFrom(from);
     to.pinClass = from.pinClass;
     to.name = from.name;
 }

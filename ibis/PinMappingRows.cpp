@@ -10,16 +10,19 @@ PinRec* FindPin(ComponentRec& component, const std::string& name) {
 
 void StoreGroupPin(PinRec& pin, const GroupRec& group) {
     if (group.name == kAvailablePinsGroup) {
-        pin.modelName = pin.signalName = pin.powerGroup = pin.groundGroup = "NC";
+        PinModelFields& m = pin.EditModel();
+        m.modelName = m.signalName = m.powerGroup = m.groundGroup = "NC";
         pin.pinClass = -1;
     } else if (group.kind == "PU") {
-        pin.modelName = "POWER";
-        pin.powerGroup = group.name;
+        PinModelFields& m = pin.EditModel();
+        m.modelName = "POWER";
+        m.powerGroup = group.name;
         pin.pinClass = 1;
-        if (pin.signalName.empty()) pin.signalName = "SIGNAL";
+        if (m.signalName.empty()) m.signalName = "SIGNAL";
     } else if (group.kind == "PD") {
-        pin.modelName = "GND";
-        pin.groundGroup = group.name;
+        PinModelFields& m = pin.EditModel();
+        m.modelName = "GND";
+        m.groundGroup = group.name;
         pin.pinClass = 2;
     }
 }
@@ -34,8 +37,9 @@ bool HasOpposingReferences(const PinRec& pin) {
     auto both = [](const std::string& a, const std::string& b) {
         return IsRealReference(a) && IsRealReference(b);
     };
-    return both(pin.pullupRef, pin.pulldownRef) || both(pin.powerClampRef, pin.gndClampRef) ||
-           both(pin.pullupRef, pin.gndClampRef) || both(pin.pulldownRef, pin.powerClampRef);
+    const PinModelFields& m = pin.Model();
+    return both(m.pullupRef, m.pulldownRef) || both(m.powerClampRef, m.gndClampRef) ||
+           both(m.pullupRef, m.gndClampRef) || both(m.pulldownRef, m.powerClampRef);
 }
 
 void StoreMappingRows(ComponentRec& component, const std::vector<SignalPinRefs>& rows,
@@ -44,10 +48,11 @@ void StoreMappingRows(ComponentRec& component, const std::vector<SignalPinRefs>&
     for (const SignalPinRefs& row : rows) {
         PinRec* pin = FindPin(component, row.pin);
         if (!pin) continue;
-        pin->pulldownRef = row.pulldown;
-        pin->pullupRef = row.pullup;
-        pin->gndClampRef = row.gndClamp;
-        pin->powerClampRef = row.powerClamp;
+        PinModelFields& m = pin->EditModel();
+        m.pulldownRef = row.pulldown;
+        m.pullupRef = row.pullup;
+        m.gndClampRef = row.gndClamp;
+        m.powerClampRef = row.powerClamp;
         complete = complete && HasOpposingReferences(*pin);
     }
     component.mappingComplete = complete ? 1 : 0;

@@ -92,8 +92,9 @@ void MappingRewrite::KeepUnchangedRows() {
         auto it = pinsByName_.find(NddToken(line_, 1));
         if (it == pinsByName_.end()) continue;
         const PinRec& pin = *it->second;
-        if (!pin.modelName.empty() && pin.modelName == pin.modelNameAsRead)
-            PrintRow(pin.name, pin.signalName, pin.modelName);
+        const PinModelFields& m = pin.Model();
+        if (!m.modelName.empty() && m.modelName == m.modelNameAsRead)
+            PrintRow(pin.name, m.signalName, m.modelName);
     }
 }
 
@@ -102,10 +103,10 @@ void MappingRewrite::WriteChangedRows() {
     static const char* const kPassModel[] = {"POWER", "GND", "NC"};
     for (int pass = 0; pass < 3; ++pass) {
         for (const PinRec& pin : c_.pins) {
-            std::string signal = pin.signalName.empty() ? "NC" : pin.signalName;
-            std::string model = pin.modelName.empty() ? "NC" : pin.modelName;
-            if (model == pin.modelNameAsRead || !Contains(ToUpper(model), kPassModel[pass]))
-                continue;
+            const PinModelFields& m = pin.Model();
+            std::string signal = m.signalName.empty() ? "NC" : m.signalName;
+            std::string model = m.modelName.empty() ? "NC" : m.modelName;
+            if (model == m.modelNameAsRead || !Contains(ToUpper(model), kPassModel[pass])) continue;
             if (pass == 2)
                 signal = "NC";
             else if (EqualsNoCase(signal, "NC"))
@@ -127,13 +128,14 @@ void MappingRewrite::WriteMappingTable() {
 // A power pin's bus stands in the third column, a ground pin's in the second.
 void MappingRewrite::WriteMappingRow(const PinRec& pin) {
     const char* name = pin.name.c_str();
+    const PinModelFields& m = pin.Model();
     if (pin.pinClass == 0) {
-        std::fprintf(out_, "%-19s%-19s%-19s%-19s%s\n", name, pin.pulldownRef.c_str(),
-                     pin.pullupRef.c_str(), pin.gndClampRef.c_str(), pin.powerClampRef.c_str());
-    } else if (pin.pinClass == 1 && !pin.powerGroup.empty()) {
-        std::fprintf(out_, "%-19s%-19s%s\n", name, "NC", pin.powerGroup.c_str());
-    } else if (pin.pinClass == 2 && !pin.groundGroup.empty()) {
-        std::fprintf(out_, "%-19s%-19s%s\n", name, pin.groundGroup.c_str(), "NC");
+        std::fprintf(out_, "%-19s%-19s%-19s%-19s%s\n", name, m.pulldownRef.c_str(),
+                     m.pullupRef.c_str(), m.gndClampRef.c_str(), m.powerClampRef.c_str());
+    } else if (pin.pinClass == 1 && !m.powerGroup.empty()) {
+        std::fprintf(out_, "%-19s%-19s%s\n", name, "NC", m.powerGroup.c_str());
+    } else if (pin.pinClass == 2 && !m.groundGroup.empty()) {
+        std::fprintf(out_, "%-19s%-19s%s\n", name, m.groundGroup.c_str(), "NC");
     } else {
         // No reference: the pin alone, with four empty columns behind it.
         std::fprintf(out_, "%s%19s%19s%19s%19s\n", name, "", "", "", "");

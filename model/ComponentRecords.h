@@ -7,29 +7,33 @@
 #include <vector>
 
 #include "base/StringMap.h"
+#include "model/PinModelFields.h"
 
 struct PadStackRec;
 
+// Fields ordered by size so the record carries no padding between them.
 struct PinRec {
-    uint32_t hasNode = 0;
-    std::string modelNameAsRead;
-    double libX = 0.0, libY = 0.0;
-    PadStackRec* padStack = nullptr;
-    std::string ioNode;
-    uint32_t hasModel = 0;
-    std::string nodeId;
     std::string name;
+    std::string net;
+    std::string nodeId;
     std::string padStackName;
+    double libX = 0.0, libY = 0.0;
     double x = 0.0, y = 0.0;
     double rotation = 0.0;
-    std::string net;
+    PadStackRec* padStack = nullptr;
     int32_t pinClass = -1;  // 0 signal, 1 power, 2 ground, -1 unknown or no connection
-    std::string modelName;
-    std::string modelType;
-    std::string pullupRef, pulldownRef, powerClampRef, gndClampRef;
-    std::string powerGroup, groundGroup;
-    std::string signalName;
-    std::vector<std::string> nodeNames;
+    uint32_t hasNode = 0;
+    uint32_t hasModel = 0;
+
+    // The model fields; empty ones, made by nobody, for a pin that never got any.
+    const PinModelFields& Model() const { return model_.Get(); }
+    // The model fields to write; the first call makes them.
+    PinModelFields& EditModel() { return model_.Edit(); }
+    // Takes all model fields of from, or none when from has none.
+    void CopyModelFrom(const PinRec& from) { model_ = from.model_; }
+
+  private:
+    PinModelHolder model_;
 };
 
 struct GroupRec {

@@ -174,8 +174,8 @@ TEST_F(PinMappingDialogTest, DroppedPinMovesAndItsEmptiedGroupIsClearedEverywher
     EXPECT_TRUE(boxes.Shown().empty());
     std::vector<std::string> read;
     for (const PinRec& pin : Buffer(part.ibisFile).pins)
-        read.push_back(pin.name + " " + std::to_string(pin.pinClass) + " " + pin.groundGroup + " " +
-                       pin.gndClampRef);
+        read.push_back(pin.name + " " + std::to_string(pin.pinClass) + " " +
+                       pin.Model().groundGroup + " " + pin.Model().gndClampRef);
     EXPECT_EQ(read, (std::vector<std::string>{"1 0  GNDGRP0", "2 0  ", "3 2 GNDGRP0 ",
                                               "4 2 GNDGRP0 ", "5 -1  "}));
 }

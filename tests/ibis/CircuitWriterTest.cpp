@@ -121,13 +121,15 @@ ComponentRec& IbisPart(ModelAssignment& models) {
     ComponentRec& u = AddComponent("U1", "U74", "", {"7", "8", "9"});
     u.ibisFile = "/x/U74.ibs";
     auto pin = u.pins.begin();
-    pin->net = "N7", pin->pinClass = 0, pin->hasModel = 1, pin->modelType = "3-state";
-    pin->modelName = "OUT3", pin->powerClampRef = "VCC1", pin->pulldownRef = "NC";
+    pin->net = "N7", pin->pinClass = 0, pin->hasModel = 1, pin->EditModel().modelType = "3-state";
+    pin->EditModel().modelName = "OUT3", pin->EditModel().powerClampRef = "VCC1",
+    pin->EditModel().pulldownRef = "NC";
     ++pin;
-    pin->net = "N8", pin->pinClass = 0, pin->hasModel = 1, pin->modelType = "Open_source";
-    pin->modelName = "OS", pin->pulldownRef = "GNDX";
+    pin->net = "N8", pin->pinClass = 0, pin->hasModel = 1,
+    pin->EditModel().modelType = "Open_source";
+    pin->EditModel().modelName = "OS", pin->EditModel().pulldownRef = "GNDX";
     ++pin;
-    pin->net = "VCC", pin->pinClass = 1, pin->modelName = "POWER";
+    pin->net = "VCC", pin->pinClass = 1, pin->EditModel().modelName = "POWER";
     models.blocks.Set("U74_PKG", &u);
     models.ibisParts.Set("U74", "T");
     u.blockName = "U74_PKG";
@@ -146,8 +148,8 @@ TEST_F(CircuitWriterTest, ActiveFormIsOffAndEveryComponentIsPassive) {
 TEST_F(CircuitWriterTest, ActiveFormSwitchedOnPrintsInstancesWithFallbacks) {
     g_bKeepActiveFormForTests = true;
     ComponentRec& u = IbisPart(models);
-    u.pins.front().gndClampRef = "";
-    u.pins.front().pulldownRef = "GND1";
+    u.pins.front().EditModel().gndClampRef = "";
+    u.pins.front().EditModel().pulldownRef = "GND1";
     // Pin 7: pullup empty takes the power clamp (the model has nd_pc); gnd clamp empty takes
     // the pulldown (the model has nd_pd). Pin 8: the model has no nd_pd, so its empty gnd
     // clamp keeps the node's own name although a pulldown is set.
@@ -165,8 +167,8 @@ TEST_F(CircuitWriterTest, ActiveFormSwitchedOnPrintsInstancesWithFallbacks) {
     EXPECT_EQ(Circuit(models), expected);
 
     // An "NC" reference is written as the node's own name, and is no fallback reason.
-    u.pins.front().pulldownRef = "NC";
-    u.pins.front().gndClampRef = "GNDC";
+    u.pins.front().EditModel().pulldownRef = "NC";
+    u.pins.front().EditModel().gndClampRef = "GNDC";
     std::string text = Circuit(models);
     EXPECT_NE(text.find("b_7_3-state VCC1 nd_pd_7_3-state nd_out_7_3-state"), std::string::npos)
         << text;

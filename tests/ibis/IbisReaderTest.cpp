@@ -38,11 +38,12 @@ struct Read {
         std::string t =
             bit(c.ibisOpened) + bit(c.ibisError) + bit(c.pinsMatch) + bit(c.mappingComplete) + "\n";
         for (const PinRec& p : c.pins) {
-            t += p.name + " c" + std::to_string(p.pinClass) + " " + p.signalName + " " +
-                 p.modelName + " " + p.modelType + " m" + bit(p.hasModel) + " [" + p.pulldownRef +
-                 "," + p.pullupRef + "," + p.gndClampRef + "," + p.powerClampRef + "] [" +
-                 p.powerGroup + "," + p.groundGroup + "] " + p.ioNode;
-            for (const std::string& node : p.nodeNames) t += " " + node;
+            const PinModelFields& m = p.Model();
+            t += p.name + " c" + std::to_string(p.pinClass) + " " + m.signalName + " " +
+                 m.modelName + " " + m.modelType + " m" + bit(p.hasModel) + " [" + m.pulldownRef +
+                 "," + m.pullupRef + "," + m.gndClampRef + "," + m.powerClampRef + "] [" +
+                 m.powerGroup + "," + m.groundGroup + "] " + m.ioNode;
+            for (const std::string& node : m.nodeNames) t += " " + node;
             t += "\n";
         }
         return t;

@@ -198,9 +198,9 @@ TEST_F(LinkageTest, ActiveFormSwitchedOnTiesIbisNodesAndPowerGroups) {
     u.refDes = "U1", u.partNumber = "U74", u.blockName = "U74_PKG", u.isActive = 1;
     PinRec out, spare, power;
     out.name = "7", out.net = "N7", out.pinClass = 0, out.nodeId = "0";
-    out.ioNode = "nd_out_7_3-state", out.pullupRef = "VCCGRP";
+    out.EditModel().ioNode = "nd_out_7_3-state", out.EditModel().pullupRef = "VCCGRP";
     for (const char* node : {"nd_pu", "nd_pd", "nd_out", "nd_pc", "nd_gc"})
-        out.nodeNames.push_back(std::string(node) + "_7_3-state");
+        out.EditModel().nodeNames.push_back(std::string(node) + "_7_3-state");
     spare.name = "8", spare.net = "N7", spare.pinClass = 0;
     power.name = "9", power.net = "VCC", power.pinClass = 1, power.nodeId = "1";
     u.pins = {out, spare, power};
@@ -223,7 +223,7 @@ TEST_F(LinkageTest, ActiveFormSwitchedOnTiesIbisNodesAndPowerGroups) {
               ".EndC\n"
               "\n");
     // The empty power clamp was mended from the pullup, since the model has nd_pc.
-    EXPECT_EQ(g_model.g_mapComponents.Find("U1")->pins.front().powerClampRef, "VCCGRP");
+    EXPECT_EQ(g_model.g_mapComponents.Find("U1")->pins.front().Model().powerClampRef, "VCCGRP");
 }
 
 }  // namespace

@@ -103,9 +103,9 @@ TEST_F(PinMappingWriterTest, ALongPinNameHidesItsMappingRowFromTheNextRead) {
     testing_support::WriteFile(state.component.ibisFile, ReadFile(folder + "saved.ibs"));
     ComponentRec back = ReadBack(state);
     // "ABCDEFGHIJKLMNOPQRSNC" is no pin: the table ends there.
-    EXPECT_EQ(back.pins.back().powerGroup, "");
+    EXPECT_EQ(back.pins.back().Model().powerGroup, "");
     EXPECT_EQ(back.mappingComplete, 0u);
-    EXPECT_EQ(back.pins.front().powerClampRef, "PWRGRP0");
+    EXPECT_EQ(back.pins.front().Model().powerClampRef, "PWRGRP0");
 }
 
 TEST_F(PinMappingWriterTest, AFileThatCannotBeReplacedKeepsItsText) {
@@ -197,14 +197,16 @@ TEST_F(PinMappingWriterTest, VendorFilesRoundTrip) {
         auto was = before.pins.begin();
         auto stored = state.component.pins.begin();
         auto refs = [](const PinRec& p) {
-            return p.pulldownRef + "|" + p.pullupRef + "|" + p.gndClampRef + "|" + p.powerClampRef;
+            const PinModelFields& m = p.Model();
+            return m.pulldownRef + "|" + m.pullupRef + "|" + m.gndClampRef + "|" + m.powerClampRef;
         };
         for (const PinRec& pin : back.pins) {
             SCOPED_TRACE(pin.name);
-            EXPECT_EQ(pin.signalName + " " + pin.modelName + " " + pin.modelType,
-                      was->signalName + " " + was->modelName + " " + was->modelType);
-            EXPECT_EQ(pin.powerGroup, stored->pinClass == 1 ? stored->powerGroup : "");
-            EXPECT_EQ(pin.groundGroup, stored->pinClass == 2 ? stored->groundGroup : "");
+            const PinModelFields &m = pin.Model(), &w = was->Model(), &s = stored->Model();
+            EXPECT_EQ(m.signalName + " " + m.modelName + " " + m.modelType,
+                      w.signalName + " " + w.modelName + " " + w.modelType);
+            EXPECT_EQ(m.powerGroup, stored->pinClass == 1 ? s.powerGroup : "");
+            EXPECT_EQ(m.groundGroup, stored->pinClass == 2 ? s.groundGroup : "");
             EXPECT_EQ(refs(pin), pin.hasModel ? refs(*stored) : "|||");
             ++was, ++stored;
         }
