@@ -471,5 +471,6 @@ void FreeModelArrays() {
     g_model.g_aNodes.clear();
     g_model.g_aNodeIndex.clear();
     g_model.g_aNodeLabels.assign(1, std::string());
+    g_model.g_aNodePads.assign(1, NodePadEntry{});
     g_model.g_nNodeCount = 0;
 }

@@ -47,5 +47,6 @@ void MakeNode() {
 void FlipMirroredBottomNodes() {
     const int32_t bottom = LastConductorLayer();
     for (NodeRec& node : g_model.g_aNodes)
-        if (node.padStack && node.layer == bottom && node.mirrored != 0) node.rotation *= -1.0;
+        if (node.pad.padStack() && node.layer == bottom && node.mirrored != 0)
+            node.pad.SetRotation(node.pad.rotation() * -1.0);
 }

@@ -86,6 +86,8 @@ struct LayoutModel {
     std::vector<uint32_t> g_aNodeIndex;
     // Pin names of nodes; a node's label is a place in it, 0 the empty name.
     std::vector<std::string> g_aNodeLabels{std::string()};
+    // Padstacks and rotations of nodes; a node's pad is a place in it, 0 none.
+    std::vector<NodePadEntry> g_aNodePads{NodePadEntry{}};
 
     // Via output table.
     std::vector<ViaOutRec> g_aViaOut;

@@ -9,9 +9,8 @@
 
 #include "model/NetIndex.h"
 #include "model/NodeLabel.h"
+#include "model/NodePad.h"
 #include "model/NodePool.h"
-
-struct PadStackRec;
 
 constexpr double kNodeTolerance = 6e-5;
 
@@ -19,7 +18,7 @@ struct NodeRec {
     // The key: layer, x, y. The other fields may change while the record is in the set. x
     // and y may too, but only within the tolerance of where they were (a via moves its nodes
     // onto its upper end's position): a larger move would break the set's order. The fields
-    // are ordered so that the record packs into 64 bytes: every node is held twice.
+    // are ordered so that the record packs into 48 bytes: every node is held twice.
     int32_t layer = 0;
     mutable uint32_t id = 0;
     mutable double x = 0.0, y = 0.0;
@@ -28,13 +27,12 @@ struct NodeRec {
     mutable uint32_t viaRefs = 0;
     mutable uint32_t traceRefs = 1;
     mutable NodeLabel label;  // pin name; empty when the node has none
-    mutable int32_t mirrored = 1;
+    mutable NodePad pad;      // padstack and rotation; none for most nodes
     mutable uint16_t contact = 0;
-    mutable double rotation = 0.0;
-    mutable PadStackRec* padStack = nullptr;
+    mutable int8_t mirrored = 1;
 };
 
-static_assert(sizeof(NodeRec) <= 64, "a node record fills one cache line at most");
+static_assert(sizeof(NodeRec) <= 48, "a node record fills three quarters of a cache line");
 
 struct NodeOrder {
     bool operator()(const NodeRec& a, const NodeRec& b) const {

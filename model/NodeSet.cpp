@@ -52,8 +52,7 @@ int32_t AddNode(const NodeRec** outRecord, double x, double y, int32_t layer, in
         rec.contact = contact;
         rec.viaRefs = 0;
         rec.traceRefs = 1;
-        rec.padStack = padStack;
-        rec.rotation = rotation;
+        rec.pad.Set(padStack, rotation);
         try {
             node = InsertAt(set, lower, rec, added);
         } catch (const std::bad_alloc&) {

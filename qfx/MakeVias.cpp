@@ -201,8 +201,7 @@ class ViaBuilder {
         } else {
             node = AddGridNode(x_, y_, L, via_.net, 1, grid_);
             if (!node) return false;
-            node->padStack = via_.padStack;
-            node->rotation = via_.rotation;
+            node->pad.Set(via_.padStack, via_.rotation);
         }
         if (placeAtUpper) PlaceAt(node, x_, y_, grid_);
         AddStretch(node);

@@ -61,13 +61,13 @@ void WriteNodeLine(FILE* out, const NodeRec& node, const std::string& name, int3
     if (layer) line += LayerName(*layer).c_str();
     line += " Contact = ";
     AppendInt(line, node.contact);
-    if (node.padStack) {
+    if (PadStackRec* padStack = node.pad.padStack()) {
         line += " PadStack = ";
         line += affix;
-        line += node.padStack->name.c_str();
+        line += padStack->name.c_str();
         if (node.layer == bottom && node.mirrored != 0) line += "_Mirrd";
         line += " AbsoluteRotation = ";
-        AppendFixed(line, node.rotation, 6);
+        AppendFixed(line, node.pad.rotation(), 6);
     }
     line += '\n';
     PutText(out, line);

@@ -120,8 +120,9 @@ std::string NodeText(const NodeRec* n) {
                   n->y, n->net, n->contact, n->traceRefs, n->viaRefs);
     std::string text = buf;
     if (!n->label.empty()) text += " " + n->label.str();
-    if (n->padStack || n->rotation != 0)
-        text += " " + (n->padStack ? n->padStack->name : "-") + "@" + std::to_string(n->rotation);
+    const PadStackRec* stack = n->pad.padStack();
+    if (stack || n->pad.rotation() != 0)
+        text += " " + (stack ? stack->name : "-") + "@" + std::to_string(n->pad.rotation());
     return text + "\n";
 }
 

@@ -73,7 +73,7 @@ class PlacePinsTest : public ::testing::Test {
             t += "node L" + std::to_string(n.layer) + " " + testing_support::Exact(n.x) + "," +
                  testing_support::Exact(n.y) + " " + net(n.net) + " " + n.label.str() + " m" +
                  std::to_string(n.mirrored) + " c" + std::to_string(n.contact) + " r" +
-                 testing_support::Exact(n.rotation) + " " + stack(n.padStack) + "\n";
+                 testing_support::Exact(n.pad.rotation()) + " " + stack(n.pad.padStack()) + "\n";
         for (const ViaRec& v : g_model.g_aVias)
             t += "via " + testing_support::Exact(v.x) + " L" + std::to_string(v.startLayer) + "-" +
                  std::to_string(v.endLayer) + " " + net(v.net) + " n" +
@@ -130,7 +130,7 @@ TEST_F(PlacePinsTest, RotationsAreReducedByTheirOddRule) {
         AddPin(Part("R1", sum[0], "%topplace "), "1", "SMD", "N1", 0.0, 0.0, 0.0);
         PlacePins();
         ASSERT_EQ(g_model.g_setNodes.size(), 1u);
-        EXPECT_EQ(g_model.g_setNodes.begin()->rotation, sum[1]) << sum[0];
+        EXPECT_EQ(g_model.g_setNodes.begin()->pad.rotation(), sum[1]) << sum[0];
     }
 }
 
