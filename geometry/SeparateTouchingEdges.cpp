@@ -36,12 +36,10 @@ const ShapePoint& Point(const ShapeRec& s, int32_t k) {
     return g_model.g_aShapePoints[static_cast<size_t>(s.firstPoint + k % s.pointCount)];
 }
 
-CellGrid BuildGrid() {
-    struct Placed {
-        int32_t cell;
-        EdgeRef ref;
-    };
-    std::vector<Placed> placed;
+// Calls f(cell, ref) for every cell that every taking-part edge crosses, shapes and edges in
+// order.
+template <class F>
+void ForEachEdgeCell(F&& f) {
     std::vector<int32_t> cells;
     const auto& shapes = g_model.g_aShapes;
     for (int32_t i = 0; i < static_cast<int32_t>(shapes.size()); ++i) {
@@ -51,16 +49,23 @@ CellGrid BuildGrid() {
             const ShapePoint& a = Point(s, k);
             const ShapePoint& b = Point(s, k + 1);
             RasterizeEdge(a.x, a.y, b.x, b.y, s.layer, cells);
-            for (int32_t c : cells) placed.push_back({c, {i, k}});
+            for (int32_t c : cells) f(c, EdgeRef{i, k});
         }
     }
+}
+
+// Two walks over the edges, one to count each cell's entries and one to place them: a list of
+// all placements before the grid would take more room than the grid itself, and this pass
+// runs again when the board's other tables are at their largest.
+CellGrid BuildGrid() {
     CellGrid grid;
     grid.start.assign(kCellCount + 1, 0);
-    for (const Placed& p : placed) ++grid.start[static_cast<size_t>(p.cell) + 1];
+    ForEachEdgeCell([&](int32_t cell, EdgeRef) { ++grid.start[static_cast<size_t>(cell) + 1]; });
     for (int c = 0; c < kCellCount; ++c) grid.start[c + 1] += grid.start[c];
-    grid.refs.resize(placed.size());
+    grid.refs.resize(grid.start[kCellCount]);
     std::vector<uint32_t> fill(grid.start.begin(), grid.start.end() - 1);
-    for (const Placed& p : placed) grid.refs[fill[static_cast<size_t>(p.cell)]++] = p.ref;
+    ForEachEdgeCell(
+        [&](int32_t cell, EdgeRef ref) { grid.refs[fill[static_cast<size_t>(cell)]++] = ref; });
     return grid;
 }
 

@@ -4,6 +4,7 @@
 // Net index: position in the sorted net table; kNoNet and kNoNetAlt mean no net. Layer index:
 // position in the layer table, top first; -1 for an unknown name.
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -89,8 +90,9 @@ struct LayoutModel {
     // Padstacks and rotations of nodes; a node's pad is a place in it, 0 none.
     std::vector<NodePadEntry> g_aNodePads{NodePadEntry{}};
 
-    // Via output table.
-    std::vector<ViaOutRec> g_aViaOut;
+    // Via output table, grown in small blocks: it reaches a million rows on a big board, and a doubling vector
+    // would hold the old rows and twice their room at once when it grows.
+    std::deque<ViaOutRec> g_aViaOut;
 
     // Side files.
     base::StringMap<ThermalTieTypeRec> g_mapThermalTieTypes;
