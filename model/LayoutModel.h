@@ -90,8 +90,8 @@ struct LayoutModel {
     // Padstacks and rotations of nodes; a node's pad is a place in it, 0 none.
     std::vector<NodePadEntry> g_aNodePads{NodePadEntry{}};
 
-    // Via output table, grown in small blocks: it reaches a million rows on a big board, and a doubling vector
-    // would hold the old rows and twice their room at once when it grows.
+    // Via output table, grown in small blocks: it reaches a million rows on a big board, and a
+    // doubling vector would hold the old rows and twice their room at once when it grows.
     std::deque<ViaOutRec> g_aViaOut;
 
     // Side files.
