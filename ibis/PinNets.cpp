@@ -1,3 +1,7 @@
+#include <string>
+#include <unordered_map>
+#include <vector>
+
 #include "base/Platform.h"
 #include "ibis/Parts.h"
 #include "ibis/PropertyNames.h"
@@ -12,8 +16,35 @@ struct PropertyName {
     std::string key, alias;
 };
 
+// The pins of a part by name, for the pin lines that set their nets. A part of many pins gets
+// an index, made on its first pin line, so that a big part does not cost the square of its pin
+// count; a small one is searched.
+class PinsByName {
+  public:
+    const std::vector<PinRec*>& Named(ComponentRec& c, const std::string& name) {
+        found_.clear();
+        if (c.pins.size() <= kSearched) {
+            for (PinRec& pin : c.pins)
+                if (pin.name == name) found_.push_back(&pin);
+            return found_;
+        }
+        auto [it, made] = index_.try_emplace(&c);
+        if (made)
+            for (PinRec& pin : c.pins) it->second[pin.name].push_back(&pin);
+        auto pins = it->second.find(name);
+        return pins == it->second.end() ? found_ : pins->second;
+    }
+
+  private:
+    static constexpr size_t kSearched = 64;
+    std::unordered_map<const ComponentRec*, std::unordered_map<std::string, std::vector<PinRec*>>>
+        index_;
+    std::vector<PinRec*> found_;
+};
+
 // What stays current from one gate line to the next.
 struct GateState {
+    PinsByName pins;
     PropertyName refDes{kRefDesProperty}, partNumberName{kPartNumberProperty},
         pinNumber{kPinNumberProperty};
     ComponentRec* component = nullptr;
@@ -76,8 +107,7 @@ void GateLine(const std::string& line, GateState& state, const std::string& fold
     } else if (PropertyValue(line, tokens, state.pinNumber, value)) {
         state.port = value;
         if (!state.component) return;
-        for (PinRec& pin : state.component->pins)
-            if (pin.name == value) pin.net = state.net;
+        for (PinRec* pin : state.pins.Named(*state.component, value)) pin->net = state.net;
     }
 }
 

@@ -117,6 +117,30 @@ TEST_F(PlacementTest, RecordsGiveTheseComponents) {
     }
 }
 
+// A part of many pins is searched through an index: a pin line still reaches every pin of its
+// name, a name given twice included, and a name the part lacks reaches none.
+TEST_F(PlacementTest, PinLinesOfABigPartReachEveryPinOfTheirName) {
+    PackageDefRec big;
+    big.name = "BIG";
+    for (int i = 1; i <= 70; ++i) {
+        PinRec pin;
+        pin.name = std::to_string(i == 70 ? 7 : i);
+        pin.padStackName = "SMD";
+        big.pins.push_back(pin);
+    }
+    g_model.g_mapPackageDefs.Set("BIG", big);
+    Place("%partinst \"U1\" \"BIG\" 0 0 0 %topplace ;\n");
+    ReadGates(
+        "%gate \"g\"\n%prop \"ICX_REF_DES\" \"U1\"\n"
+        "%port \"7\" \"N7\"\n%prop \"ICX_PIN_NUMBER\" \"7\"\n"
+        "%port \"69\" \"N69\"\n%prop \"ICX_PIN_NUMBER\" \"69\"\n"
+        "%prop \"ICX_PIN_NUMBER\" \"99\"\n");
+    std::string nets;
+    for (const PinRec& pin : Comp("U1").pins)
+        if (!pin.net.empty()) nets += pin.name + ":" + pin.net + " ";
+    EXPECT_EQ(nets, "7:N7 69:N69 7:N7 ");
+}
+
 TEST_F(PlacementTest, QuarterTurnsAreExactAndOtherAnglesGoThroughSine) {
     Place(
         "%partinst \"C1\" \"RES0603\" 0 0 90 %topplace ;\n"
