@@ -14,6 +14,7 @@
 #include "geometry/SortShapes.h"
 #include "model/LayoutModel.h"
 #include "model/NodeSet.h"
+#include "model/TranslationOptions.h"
 #include "ndd/NetTable.h"
 
 namespace fixtures {
@@ -33,6 +34,15 @@ inline void MakeSignalLayers(const std::vector<std::string>& names) {
     std::vector<std::pair<std::string, uint8_t>> layers;
     for (const std::string& name : names) layers.emplace_back(name, kLayerSignal);
     MakeLayerStack(layers);
+}
+
+// A selection of the one net, in force as the settings put it.
+inline void SelectOnlyNet(int32_t net) {
+    g_options.g_bSelectedOnly = 1;
+    g_options.g_bAllNets = 0;
+    g_options.g_nSelectedNetCount = 1;
+    g_options.g_pSelectedNets = {net};
+    g_options.g_aSortedSelectedNets = {net};
 }
 
 // TOP signal, D1 dielectric, BOTTOM signal.

@@ -35,6 +35,19 @@ bool Save(QWidget* widget, const std::string& path) {
     return saved;
 }
 
+// Calls act once with the modal dialog of type Dialog as soon as it shows; the caller then
+// starts the modal run, which act must end. The timer must outlive that run.
+template <class Dialog, class Act>
+void WhenModalShows(QTimer& look, Act act) {
+    QObject::connect(&look, &QTimer::timeout, [&look, act]() mutable {
+        auto* dialog = dynamic_cast<Dialog*>(g_pModalDialog);
+        if (!dialog || !dialog->GetHandle()->isVisible()) return;
+        look.stop();
+        act(*dialog);
+    });
+    look.start(50);
+}
+
 // The pin mapping dialog of the IBIS page's first part, every group open.
 bool SavePinMapping(CNdd2QfxSetting& settings, const std::string& folder) {
     CIBISFileSelector& page = settings.IbisPage();
@@ -43,16 +56,12 @@ bool SavePinMapping(CNdd2QfxSetting& settings, const std::string& folder) {
     parts->SetFocusedRow(0);
     bool ok = false;
     QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&] {
-        auto* mapping = dynamic_cast<CPowerPinSelector*>(g_pModalDialog);
-        if (!mapping || !mapping->GetHandle()->isVisible()) return;
-        look.stop();
-        for (const PinGroupRec& group : std::vector<PinGroupRec>(mapping->Groups().Groups()))
-            mapping->Groups().SetOpen(group.group, true);
-        ok = Save(mapping->GetHandle(), folder + "/pin-mapping.png");
-        mapping->EndDialog(kIdCancel);
+    WhenModalShows<CPowerPinSelector>(look, [&](CPowerPinSelector& mapping) {
+        for (const PinGroupRec& group : std::vector<PinGroupRec>(mapping.Groups().Groups()))
+            mapping.Groups().SetOpen(group.group, true);
+        ok = Save(mapping.GetHandle(), folder + "/pin-mapping.png");
+        mapping.EndDialog(kIdCancel);
     });
-    look.start(50);
     page.OnCmdMsg(IDC_BUTTON_EDIT_IBIS_FILE, kCodeClicked, nullptr, false);
     return ok;
 }
@@ -68,10 +77,8 @@ bool SaveSettingsPages(const std::string& folder, const std::string& work) {
     // The Settings step reads the board, then opens the dialog; the pictures are taken in its
     // modal run, which the last one ends.
     QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&] {
-        auto* settings = dynamic_cast<CNdd2QfxSetting*>(g_pModalDialog);
-        if (!settings || !settings->GetHandle()->isVisible()) return;
-        look.stop();
+    WhenModalShows<CNdd2QfxSetting>(look, [&](CNdd2QfxSetting& shown) {
+        CNdd2QfxSetting* settings = &shown;
         ok &= Save(settings->GetHandle(), folder + "/settings-options.png");
         settings->TabControl()->setCurrentIndex(1);
         CUiListCtrl* nets = settings->NetChoicePage().NetList();
@@ -86,7 +93,6 @@ bool SaveSettingsPages(const std::string& folder, const std::string& work) {
         ok &= SavePinMapping(*settings, folder);
         settings->OnCancel();
     });
-    look.start(50);
     main.OnProperty();
     return ok;
 }

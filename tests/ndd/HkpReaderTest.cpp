@@ -40,13 +40,7 @@ TEST_F(HkpReaderTest, AreasGiveTheseShapes) {
          testing_support::DataCases("ndd/HkpReader/Areas.txt")) {
         SetUp();
         g_options.g_nIncludeNoNetEtches = c.Has("nonet");
-        if (c.Has("onlyvcc")) {
-            g_options.g_bSelectedOnly = 1;
-            g_options.g_bAllNets = 0;
-            g_options.g_nSelectedNetCount = 1;
-            g_options.g_pSelectedNets = {kVcc};
-            g_options.g_aSortedSelectedNets = {kVcc};
-        }
+        if (c.Has("onlyvcc")) fixtures::SelectOnlyNet(kVcc);
         std::string text = c.input;
         for (size_t at; (at = text.find("{area}\n")) != std::string::npos;)
             text.replace(at, 7, area);

@@ -90,13 +90,7 @@ TEST_F(ThermalTiesTest, TieRecordsGiveTheseTies) {
         if (c.Has("vcc")) Fill(0, 0, 10, 10, kVcc, kPolarityCopper);
         SortShapes();
         g_options.g_nIncludeNoNetEtches = c.Has("nonet");
-        if (c.Has("onlygnd")) {
-            g_options.g_bSelectedOnly = 1;
-            g_options.g_bAllNets = 0;
-            g_options.g_nSelectedNetCount = 1;
-            g_options.g_pSelectedNets = {kGnd};
-            g_options.g_aSortedSelectedNets = {kGnd};
-        }
+        if (c.Has("onlygnd")) fixtures::SelectOnlyNet(kGnd);
         EXPECT_EQ(Read(c.input), 1) << c.title;
         EXPECT_EQ(TiesText(), c.expected) << c.title;
     }
