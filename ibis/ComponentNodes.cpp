@@ -138,7 +138,6 @@ bool ComponentNodes::NodeNetTaken(int32_t net) const {
     return std::binary_search(selectedNets.begin(), selectedNets.end(), net);
 }
 
-// The position text of every pin that the binding step will look up, as "x#y#layer".
 namespace {
 
 // The position text of a pin that the binding step looks up; empty when it passes the pin over.
@@ -150,6 +149,7 @@ std::string PinPlaceKey(const ComponentRec& c, const PinRec& pin) {
 
 }  // namespace
 
+// The position text of every pin that the binding step will look up, as "x#y#layer".
 std::unordered_set<std::string> ComponentNodes::PinPlaces() const {
     std::unordered_set<std::string> places;
     components->ForEach([&](const std::string&, ComponentRec& c) {

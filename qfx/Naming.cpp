@@ -14,10 +14,6 @@ std::string NetSuffix(int32_t net) {
     return name.empty() ? std::string() : "::" + name;
 }
 
-std::string PinLabelSuffix(const std::string& label) {
-    return label.empty() ? std::string() : "!!" + label;
-}
-
 void AppendNodeName(std::string& out, int32_t id, const std::string& label, int32_t net) {
     out += "Node";
     out += Affix().c_str();

@@ -8,10 +8,8 @@
 const std::string& Affix();
 // "::" and the net's unique display name; empty when net names are off or for no net.
 std::string NetSuffix(int32_t net);
-// "!!" and the node's pin label; empty without a label.
-std::string PinLabelSuffix(const std::string& label);
-// "Node", affix, number, pin label suffix and net suffix appended to out: a node's name as
-// its own line and every reference to it spell it.
+// "Node", affix, number, "!!" and the pin label (if any), and the net suffix appended to out: a
+// node's name as its own line and every reference to it spell it.
 void AppendNodeName(std::string& out, int32_t id, const std::string& label, int32_t net);
 // The program's version as the title prints it: "," to "." and blanks removed.
 std::string TitleVersion(const std::string& productVersion);
